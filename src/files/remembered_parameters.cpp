@@ -1,0 +1,28 @@
+#include "files/remembered_parameters.h"
+
+#include "plan/entry_fields.h"
+#include "plan/parameters_file.h"
+
+namespace fundlet {
+
+void SaveParameters(Plan& plan, const EntryForm& form) {
+  const FolderItem file = ParametersFile();
+  // Opened before any field is read, so that a file that cannot be had leaves the plan alone.
+  BinaryStream stream =
+      file.Exists() ? BinaryStream::Open(file, true) : BinaryStream::Create(file, true);
+  ReadAllFields(plan, form);
+  stream.SetPosition(0);
+  WriteParameters(stream, plan);
+  stream.Close();
+}
+
+void RestoreParameters(Plan& plan, EntryForm& form) {
+  BinaryStream stream = OpenRememberedParameters(plan);
+  DisplayParameters(plan, form);
+  form.SelectAll(FocusCode::StartYear);
+  form.ShowResult(ResultText(0.0));
+  stream.Close();
+  form.SetFocus(FocusCode::StartYear);
+}
+
+}  // namespace fundlet

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace fundlet {
+
+// A retirement plan: the eight parameters that the user edits, what the last solve made of them,
+// and where the user was. It keeps nothing in range by itself; only ErrorDetected does. There is
+// one record for the run, and the operations on it are free functions.
+//
+// Money is in dollars, rates are fractions per year (0.02 is 2%), ages and years are whole.
+struct Plan {
+  // Dollars. Element 0 is the Fundlet at the start of the first year, element y the Fundlet at the
+  // end of plan year y. Never empty.
+  std::vector<double> Balance = {0.0};
+
+  std::int64_t YearsLeft = 0;   // life expectancy: the number of plan years
+  std::int64_t StartYear = 0;   // the calendar year on whose 1 January the draws begin
+  std::int64_t StartAge = 0;    // age on that day
+  double COLA = 0.0;            // cost of living adjustment, a fraction per year
+  double StartFundlet = 0.0;    // dollars at the beginning of the first year
+  double SocialSecurity = 0.0;  // dollars in the first year, after tax
+  double FundletAPR = 0.0;      // earned after tax, a fraction per year, credited monthly
+  double EndFundlet = 0.0;      // dollars that are to remain at the end of the last year
+
+  double AnnualDraw = 0.0;  // the first year's draw as solved, dollars, not rounded
+  bool OKtoPrint = false;   // a schedule may be saved
+
+  // Whole dollars. Element y - 1 is the total drawn in plan year y. Never empty.
+  std::vector<std::int64_t> Drawing = {0};
+  // Persons of 100,000 born who are still alive, by age in years. Never empty.
+  std::vector<std::int64_t> Surviving = {0};
+
+  bool WindowOpened = false;     // opened, and not yet activated for the first time
+  std::int64_t TheFocus = 0;     // code of the field that last received the focus, 0 for none
+  std::int64_t ErrorFocus = 0;   // code of the field refused by the latest validation, 0 for none
+};
+
+}  // namespace fundlet

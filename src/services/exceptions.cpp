@@ -1,0 +1,74 @@
+#include "services/exceptions.h"
+
+#include <cerrno>
+#include <string_view>
+#include <system_error>
+
+namespace fundlet {
+
+namespace {
+
+struct Reason {
+  int error_number;
+  std::string_view text;
+};
+
+constexpr Reason kReasons[] = {
+    {IOException::kFileExists, "there is a file of that name already"},
+    {IOException::kEndOfFile, "the file is shorter than it should be"},
+    {IOException::kNotAFile, "there is something of that name that is not a file"},
+    {IOException::kNoFolder, "you have no folder of your own to keep it in"},
+    {EISDIR, "there is a folder of that name"},
+    {ENOENT, "the folder or the file is not there"},
+    {ENOTDIR, "a part of its path is not a folder"},
+    {EACCES, "you have no permission to use it"},
+    {EPERM, "you have no permission to use it"},
+    {EROFS, "the disk can only be read"},
+    {ENOSPC, "there is no room left on the disk"},
+#ifdef EDQUOT
+    {EDQUOT, "your share of the disk is used up"},
+#endif
+    {EFBIG, "the file would be too large"},
+    {EIO, "the disk reported a fault"},
+    {ENODEV, "the disk is no longer there"},
+    {ENXIO, "the disk is no longer there"},
+    {ETXTBSY, "another program is using it"},
+    {EBUSY, "another program is using it"},
+    {EMFILE, "too many files are open"},
+    {ENFILE, "too many files are open"},
+    {ENAMETOOLONG, "its name is too long"},
+    {ELOOP, "its links lead round in a circle"},
+    {EINVAL, "its name is not allowed here"},
+};
+
+std::string_view ActionText(FileAction action) {
+  switch (action) {
+    case FileAction::Open: return "opened";
+    case FileAction::Create: return "created";
+    case FileAction::Read: return "read";
+    case FileAction::Write: return "written";
+    case FileAction::Close: return "closed";
+  }
+  return "used";
+}
+
+}  // namespace
+
+std::string ReasonText(int error_number) {
+  for (const Reason& reason : kReasons) {
+    if (reason.error_number == error_number) return std::string(reason.text);
+  }
+  return "the system says: " + std::generic_category().message(error_number);
+}
+
+std::string PathText(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+IOException::IOException(FileAction action, const std::filesystem::path& file, int error_number)
+    : RuntimeException("File “" + PathText(file) + "” could not be " +
+                       std::string(ActionText(action)) + ": " + ReasonText(error_number) + "."),
+      error_number_(error_number) {}
+
+}  // namespace fundlet

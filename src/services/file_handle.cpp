@@ -1,0 +1,67 @@
+#include "services/file_handle.h"
+
+#include <cerrno>
+#include <system_error>
+
+namespace fundlet {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::FILE* OpenFile(const fs::path& path, FileHandle::Use use) {
+  const bool existing = use == FileHandle::Use::Existing;
+#ifdef _WIN32
+  return _wfopen(path.c_str(), existing ? L"r+b" : L"w+b");
+#else
+  return std::fopen(path.c_str(), existing ? "r+b" : "w+b");
+#endif
+}
+
+// The errno value of what the path leads to being no plain file, 0 for a plain file or for none.
+int NoPlainFile(const fs::path& path) {
+  std::error_code ignored;
+  const fs::file_status status = fs::status(path, ignored);
+  if (fs::is_directory(status)) return EISDIR;
+  const bool plain = !fs::exists(status) || fs::is_regular_file(status);
+  return plain ? 0 : IOException::kNotAFile;
+}
+
+}  // namespace
+
+FileHandle::FileHandle(const FolderItem& item, Use use) : path_(item.Path()) {
+  const FileAction action = use == Use::Existing ? FileAction::Open : FileAction::Create;
+  if (path_.empty()) throw IOException(action, item.Name(), IOException::kNoFolder);
+  if (const int fault = NoPlainFile(path_); fault != 0) Fail(action, fault);
+  errno = 0;
+  file_.reset(OpenFile(path_, use));
+  if (!file_) Fail(action, errno);
+  std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+}
+
+void FileHandle::Fail(FileAction action, int error_number) const {
+  throw IOException(action, path_, error_number);
+}
+
+void FileHandle::Read(void* bytes, std::size_t count) {
+  errno = 0;
+  if (std::fread(bytes, 1, count, file_.get()) == count) return;
+  Fail(FileAction::Read, std::ferror(file_.get()) != 0 ? errno : IOException::kEndOfFile);
+}
+
+void FileHandle::Write(const void* bytes, std::size_t count) {
+  errno = 0;
+  if (std::fwrite(bytes, 1, count, file_.get()) != count) Fail(FileAction::Write, errno);
+}
+
+void FileHandle::SetPosition(long position) {
+  errno = 0;
+  if (std::fseek(file_.get(), position, SEEK_SET) != 0) Fail(FileAction::Write, errno);
+}
+
+void FileHandle::Close() {
+  errno = 0;
+  if (std::fclose(file_.release()) != 0) Fail(FileAction::Close, errno);
+}
+
+}  // namespace fundlet

@@ -1,0 +1,82 @@
+#include "services/folder_item.h"
+
+#include <array>
+#include <cstdlib>
+#include <system_error>
+#include <utility>
+
+#include "services/exceptions.h"
+
+#ifdef __APPLE__
+#include <sys/xattr.h>
+#endif
+
+namespace fundlet {
+
+namespace fs = std::filesystem;
+
+FolderItem::FolderItem(fs::path path) : path_(std::move(path)), name_(PathText(path_.filename())) {}
+
+FolderItem FolderItem::Child(std::string_view name) const {
+  FolderItem child;
+  if (!path_.empty()) child.path_ = path_ / fs::path(std::u8string(name.begin(), name.end()));
+  child.name_ = name;
+  return child;
+}
+
+bool FolderItem::Exists() const {
+  std::error_code ignored;
+  return !path_.empty() && fs::exists(path_, ignored);
+}
+
+void FolderItem::SetMacCreator([[maybe_unused]] std::string_view code) const {
+#ifdef __APPLE__
+  constexpr std::size_t kCreatorOffset = 4;
+  std::array<char, 32> finder_info{};
+  getxattr(path_.c_str(), XATTR_FINDERINFO_NAME, finder_info.data(), finder_info.size(), 0, 0);
+  code.copy(finder_info.data() + kCreatorOffset, 4);
+  setxattr(path_.c_str(), XATTR_FINDERINFO_NAME, finder_info.data(), finder_info.size(), 0, 0);
+#endif
+}
+
+namespace {
+
+// A folder that the environment names; empty where it names none or names it relative to the
+// folder that the program happens to be started in.
+fs::path FolderFromEnvironment(const char* variable) {
+#ifdef _WIN32
+  const std::string name = variable;
+  const wchar_t* value = _wgetenv(std::wstring(name.begin(), name.end()).c_str());
+#else
+  const char* value = std::getenv(variable);
+#endif
+  fs::path folder = value != nullptr ? fs::path(value) : fs::path();
+  return folder.is_absolute() ? folder : fs::path();
+}
+
+fs::path PreferencesPath() {
+#if defined(_WIN32)
+  return FolderFromEnvironment("APPDATA");
+#elif defined(__APPLE__)
+  const fs::path home = FolderFromEnvironment("HOME");
+  return home.empty() ? home : home / "Library" / "Preferences";
+#else
+  const fs::path config = FolderFromEnvironment("XDG_CONFIG_HOME");
+  if (!config.empty()) return config;
+  const fs::path home = FolderFromEnvironment("HOME");
+  return home.empty() ? home : home / ".config";
+#endif
+}
+
+}  // namespace
+
+FolderItem SpecialFolder::Preferences() {
+  const fs::path path = PreferencesPath();
+  if (path.empty()) return {};
+  // A folder that cannot be made shows when the file in it is opened or created, which says why.
+  std::error_code ignored;
+  fs::create_directories(path, ignored);
+  return FolderItem(path);
+}
+
+}  // namespace fundlet

@@ -1,0 +1,106 @@
+#include "services/format.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+
+namespace fundlet {
+
+namespace {
+
+struct Mask {
+  std::size_t least_whole;    // digit places before the point that are always shown
+  std::size_t least_decimals;
+  std::size_t most_decimals;
+  bool grouped;
+};
+
+Mask Parsed(std::string_view mask) {
+  const std::size_t point = std::min(mask.find('.'), mask.size());
+  const std::string_view whole = mask.substr(0, point);
+  const std::string_view decimals = mask.substr(point);
+  const auto count = [](std::string_view part, char c) {
+    return static_cast<std::size_t>(std::count(part.begin(), part.end(), c));
+  };
+  return {count(whole, '0'), count(decimals, '0'), count(decimals, '0') + count(decimals, '#'),
+          count(whole, ',') > 0};
+}
+
+// A decimal number, its digits before and after the point.
+struct Decimal {
+  std::string whole;
+  std::string decimals;
+};
+
+// Every digit of a finite number that is not negative: a double has at most 309 digits before the
+// point and 1074 after it, so nothing is rounded here.
+Decimal ExactDigits(double number) {
+  constexpr int kMostDecimals = 1074;
+  std::array<char, 309 + 1 + kMostDecimals> digits{};
+  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                     std::chars_format::fixed, kMostDecimals);
+  const char* point = std::find(digits.data(), written.ptr, '.');
+  return {std::string(static_cast<const char*>(digits.data()), point),
+          std::string(point + 1, static_cast<const char*>(written.ptr))};
+}
+
+void AddOne(std::string& digits) {
+  for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
+    if (*digit != '9') {
+      ++*digit;
+      return;
+    }
+    *digit = '0';
+  }
+  digits.insert(digits.begin(), '1');
+}
+
+Decimal Rounded(const Decimal& exact, std::size_t places) {
+  const std::size_t whole_length = exact.whole.size();
+  std::string digits = exact.whole + exact.decimals.substr(0, places);
+  if (exact.decimals[places] >= '5') AddOne(digits);
+  const std::size_t split = digits.size() - places;
+  return {digits.substr(0, std::max(split, whole_length)), digits.substr(split)};
+}
+
+std::string Grouped(const std::string& digits) {
+  std::string result;
+  for (std::size_t at = 0; at < digits.size(); ++at) {
+    if (at > 0 && (digits.size() - at) % 3 == 0) result += ',';
+    result += digits[at];
+  }
+  return result;
+}
+
+// Takes off the zeros at the front that the mask does not ask for, or puts them there.
+void FitWhole(std::string& whole, std::size_t least) {
+  whole.erase(0, std::min(whole.find_first_not_of('0'), whole.size()));
+  if (whole.size() < least) whole.insert(0, least - whole.size(), '0');
+}
+
+void FitDecimals(std::string& decimals, std::size_t least) {
+  const std::size_t used = decimals.find_last_not_of('0') + 1;
+  decimals.resize(std::max(used, least));
+}
+
+bool AllZero(const std::string& digits) { return digits.find_first_not_of('0') == digits.npos; }
+
+}  // namespace
+
+std::string Format(double number, std::string_view mask) {
+  if (std::isnan(number)) return "NaN";
+  if (std::isinf(number)) return number < 0 ? "-1e999" : "1e999";
+  const Mask parsed = Parsed(mask);
+  Decimal shown = Rounded(ExactDigits(std::fabs(number)), parsed.most_decimals);
+  const bool negative = number < 0 && !(AllZero(shown.whole) && AllZero(shown.decimals));
+  FitWhole(shown.whole, parsed.least_whole);
+  FitDecimals(shown.decimals, parsed.least_decimals);
+  std::string text = negative ? "-" : "";
+  text += parsed.grouped ? Grouped(shown.whole) : shown.whole;
+  if (!shown.decimals.empty()) text += "." + shown.decimals;
+  return text;
+}
+
+}  // namespace fundlet

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+
+namespace fundlet {
+
+inline double Abs(double number) { return std::fabs(number); }
+
+// x to the power y; Pow(x, 0) is 1.
+inline double Pow(double x, double y) { return std::pow(x, y); }
+
+// The nearest whole number; a number just between two goes away from zero.
+inline double Round(double number) { return std::round(number); }
+
+// A number truncated toward zero. What no signed 64-bit integer holds, not-a-number and the
+// infinities among it, gives the most negative one.
+std::int64_t Truncated(double number);
+
+}  // namespace fundlet

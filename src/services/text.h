@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// Text services. Every text is UTF-8; bytes that are not valid UTF-8 count as one character each.
+// None of them depends on the locale.
+namespace fundlet {
+
+// The number that a text begins with: blanks and tabs, a sign, decimal digits with at most one
+// point among them, and an exponent (e or E, a sign, digits), of which all but one digit may be
+// missing. Reading stops at the first character that cannot belong to the number, a comma among
+// them. Correctly rounded; too large a number gives an infinity of its sign, too small a one a
+// zero of its sign, and a text that begins with no number gives 0.
+double Val(std::string_view text);
+
+// The decimal digits of a whole number, with a leading minus sign when it is negative.
+std::string Str(std::int64_t number);
+
+// The number of characters in a text.
+std::size_t Len(std::string_view text);
+
+// The one-character text of a code point; U+FFFD for a number that is none.
+std::string Chr(std::uint32_t code);
+
+// The source with every occurrence of a text replaced by another, from left to right; the source
+// unchanged where the text to replace is empty.
+std::string ReplaceAll(std::string_view source, std::string_view old_text,
+                       std::string_view new_text);
+
+}  // namespace fundlet
