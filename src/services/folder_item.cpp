@@ -26,7 +26,7 @@ FolderItem FolderItem::Child(std::string_view name) const {
 
 bool FolderItem::Exists() const {
   std::error_code ignored;
-  return !path_.empty() && fs::exists(path_, ignored);
+  return !path_.empty() && fs::status(path_, ignored).type() != fs::file_type::not_found;
 }
 
 void FolderItem::SetMacCreator([[maybe_unused]] std::string_view code) const {

@@ -15,6 +15,8 @@ class FolderItem {
 
   // The entry of that name (UTF-8) inside this folder.
   FolderItem Child(std::string_view name) const;
+  // Also True where the system cannot tell: nothing may then be put in its place unasked, and to
+  // open it says why.
   bool Exists() const;
   // The entry's own name, without its folders, in UTF-8.
   const std::string& Name() const { return name_; }
