@@ -1,0 +1,141 @@
+#include <bit>
+#include <cerrno>
+#include <functional>
+#include <limits>
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+#include "services/binary_stream.h"
+#include "services/text_output_stream.h"
+#include "tests/services/scratch_folder.h"
+
+namespace fundlet {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(BinaryStream, KeepsNumbersBitForBitInTheByteOrderAskedFor) {
+  const ScratchFolder folder;
+  const std::string most_first("\xFF\xFE\x9C\x3F\x94\x7A\xE1\x47\xAE\x14\x7B", 11);
+  const std::string least_first("\xFE\xFF\x9C\x7B\x14\xAE\x47\xE1\x7A\x94\x3F", 11);
+  for (const bool little : {false, true}) {
+    BinaryStream stream = BinaryStream::Create(folder.Item("numbers"), true);
+    stream.LittleEndian = little;
+    stream.WriteInt16(-2);
+    stream.WriteInt8(-100);
+    stream.WriteDouble(0.02);
+    EXPECT_EQ(folder.Read("numbers"), little ? least_first : most_first);
+    stream.SetPosition(0);
+    EXPECT_EQ(stream.ReadInt16(), -2);
+    EXPECT_EQ(stream.ReadInt8(), -100);
+    EXPECT_EQ(stream.ReadDouble(), 0.02);
+  }
+}
+
+TEST(BinaryStream, OpensAtTheFirstByteAndOverwritesInPlace) {
+  const ScratchFolder folder;
+  folder.Write("file", "abcdef");
+  BinaryStream stream = BinaryStream::Open(folder.Item("file"), true);
+  EXPECT_EQ(stream.ReadInt8(), 'a');
+  stream.SetPosition(2);
+  stream.WriteInt16(0x5859);
+  EXPECT_EQ(folder.Read("file"), "abXYef") << "a write must not wait for the close";
+  BinaryStream::Create(folder.Item("file"), true).Close();
+  EXPECT_EQ(folder.Read("file"), "");
+}
+
+TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
+  const ScratchFolder folder;
+  folder.Write("short", "abc");
+  fs::create_directory(folder.Path() / "folder");
+  ASSERT_EQ(mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
+  const auto open = [](const FolderItem& item) { BinaryStream::Open(item, true); };
+  const auto create = [](const FolderItem& item) { BinaryStream::Create(item, true); };
+  const auto make_new = [](const FolderItem& item) { BinaryStream::Create(item, false); };
+  const auto read = [](const FolderItem& item) { BinaryStream::Open(item, true).ReadDouble(); };
+  const struct {
+    std::function<void(const FolderItem&)> operation;
+    FolderItem item;
+    int number;
+    std::string rest;
+  } failures[] = {
+      {open, folder.Item("gone ½"), ENOENT, "opened: the folder or the file is not there."},
+      {create, folder.Item("gone/x"), ENOENT, "created: the folder or the file is not there."},
+      {open, folder.Item("folder"), EISDIR, "opened: there is a folder of that name."},
+      {create, folder.Item("folder"), EISDIR, "created: there is a folder of that name."},
+      {open, folder.Item("pipe"), -2,
+       "opened: there is something of that name that is not a file."},
+      {open, folder.Item("short/x"), ENOTDIR, "opened: a part of its path is not a folder."},
+      {create, folder.Item(std::string(300, 'x')), ENAMETOOLONG, "created: its name is too long."},
+      {make_new, folder.Item("short"), 104, "created: there is a file of that name already."},
+      {read, folder.Item("short"), -1, "read: the file is shorter than it should be."},
+      {create, FolderItem().Child("x"), -3,
+       "created: you have no folder of your own to keep it in."},
+  };
+  for (const auto& [operation, item, number, rest] : failures) {
+    const std::string name = item.Path().empty() ? item.Name() : item.Path().string();
+    try {
+      operation(item);
+      ADD_FAILURE() << name << " was to fail: " << rest;
+    } catch (const IOException& failure) {
+      EXPECT_EQ(failure.ErrorNumber(), number) << failure.what();
+      EXPECT_EQ(failure.what(), "File “" + name + "” could not be " + rest);
+    }
+  }
+  EXPECT_EQ(folder.Read("short"), "abc");
+}
+
+TEST(TextOutputStream, StartsANewFileAndEndsEachLine) {
+  const ScratchFolder folder;
+  folder.Write("text", std::string(100, 'x'));
+  TextOutputStream stream = TextOutputStream::Create(folder.Item("text"));
+  stream.WriteLine("é\t1");
+  stream.WriteLine("");
+  stream.Delimiter = "\r\n";
+  stream.WriteLine("end");
+  stream.Close();
+  EXPECT_EQ(folder.Read("text"), "é\t1\n\nend\r\n");
+}
+
+TEST(TextOutputStream, RefusesNoItemAndAFolder) {
+  const ScratchFolder folder;
+  EXPECT_THROW(TextOutputStream::Create(std::nullopt), NilObjectException);
+  EXPECT_THROW(TextOutputStream::Create(FolderItem(folder.Path())), IOException);
+}
+
+TEST(Preferences, AreInTheConfigurationFolderOrInTheHomeFolder) {
+  const ScratchFolder folder;
+  const fs::path config = folder.Path() / "Konfiguration é" / "deep";
+  const fs::path home = folder.Path() / "home";
+  setenv("HOME", home.c_str(), 1);
+  setenv("XDG_CONFIG_HOME", config.c_str(), 1);
+  EXPECT_EQ(SpecialFolder::Preferences().Path(), config);
+  EXPECT_TRUE(fs::is_directory(config)) << "it is made when it does not exist";
+  for (const char* none : {"relative/folder", ""}) {
+    setenv("XDG_CONFIG_HOME", none, 1);
+    EXPECT_EQ(SpecialFolder::Preferences().Path(), home / ".config") << none;
+  }
+  unsetenv("XDG_CONFIG_HOME");
+  EXPECT_EQ(SpecialFolder::Preferences().Path(), home / ".config");
+  unsetenv("HOME");
+  EXPECT_TRUE(SpecialFolder::Preferences().Path().empty());
+  EXPECT_FALSE(SpecialFolder::Preferences().Child("x").Exists());
+  EXPECT_EQ(SpecialFolder::Preferences().Child("x").Name(), "x");
+}
+
+TEST(FolderItem, ThatCannotBeLookedAtIsNotTakenForMissing) {
+  const ScratchFolder folder;
+  fs::create_directory(folder.Path() / "shut");
+  folder.Write("shut/file", "abc");
+  fs::permissions(folder.Path() / "shut", fs::perms::none);
+  {
+    const OrdinaryUser user;
+    EXPECT_TRUE(folder.Item("shut/file").Exists());
+    EXPECT_FALSE(folder.Item("nothing").Exists());
+  }
+  fs::permissions(folder.Path() / "shut", fs::perms::owner_all);
+}
+
+}  // namespace
+}  // namespace fundlet

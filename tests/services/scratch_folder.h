@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdlib.h>
+#include <string>
+#include <unistd.h>
+
+#include "services/folder_item.h"
+
+namespace fundlet {
+
+// A new folder that is the user's preferences folder too, for as long as it lives.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    std::string name = std::filesystem::temp_directory_path() / "fundlet-XXXXXX";
+    path_ = mkdtemp(name.data());
+    std::filesystem::permissions(path_, std::filesystem::perms{0777});
+    setenv("XDG_CONFIG_HOME", path_.c_str(), 1);
+  }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+  ~ScratchFolder() { std::filesystem::remove_all(path_); }
+
+  const std::filesystem::path& Path() const { return path_; }
+  FolderItem Item(const std::string& name) const { return FolderItem(path_ / name); }
+  void Write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(path_ / name, std::ios::binary) << bytes;
+  }
+  std::string Read(const std::string& name) const {
+    std::ifstream file(path_ / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+ private:
+  std::filesystem::path path_;
+};
+
+// Takes root's power over every file away for as long as it lives; others keep what they have.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() {
+    constexpr uid_t kNobody = 65534;
+    if (uid_ == 0 && seteuid(kNobody) != 0) std::abort();
+  }
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+  ~OrdinaryUser() {
+    if (seteuid(uid_) != 0) std::abort();
+  }
+
+ private:
+  uid_t uid_ = geteuid();
+};
+
+}  // namespace fundlet

@@ -1,0 +1,178 @@
+#include "services/text.h"
+
+#include <bit>
+#include <cstdlib>
+#include <limits>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "services/numbers.h"
+
+namespace fundlet {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
+
+std::uint64_t Bits(double number) { return std::bit_cast<std::uint64_t>(number); }
+
+struct Reading {
+  std::string text;
+  double value;
+};
+
+void ExpectReadings(const std::vector<Reading>& readings) {
+  for (const auto& [text, value] : readings) {
+    EXPECT_EQ(Bits(Val(text)), Bits(value)) << "'" << text.substr(0, 40) << "' gave " << Val(text);
+  }
+}
+
+TEST(Val, ReadsTheNumberThatATextBeginsWith) {
+  ExpectReadings({{"12", 12},
+                  {" \t-12.5 x", -12.5},
+                  {"+7", 7},
+                  {".5", 0.5},
+                  {"5.", 5},
+                  {"-.5e1", -5},
+                  {"5.e2", 500},
+                  {"1e3", 1000},
+                  {"1E+3", 1000},
+                  {"1e-3", 0.001},
+                  {"1e", 1},
+                  {"1e+", 1},
+                  {"1e3.5", 1000},
+                  {"1 e3", 1},
+                  {"1.2.3", 1.2},
+                  {"1,234", 1},
+                  {"1-2", 1},
+                  {"12abc", 12},
+                  {"1d3", 1},
+                  {"007", 7},
+                  {"1\0"
+                   "2",
+                   1},
+                  {"7\xFF", 7},
+                  {"5１", 5},
+                  {"2½", 2}});
+}
+
+TEST(Val, GivesZeroForATextThatBeginsWithNoNumber) {
+  ExpectReadings({{"", 0},
+                  {"  ", 0},
+                  {"abc", 0},
+                  {".", 0},
+                  {"-", 0},
+                  {"- 5", 0},
+                  {"--5", 0},
+                  {"+-5", 0},
+                  {".e5", 0},
+                  {"e5", 0},
+                  {"\n5", 0},
+                  {",5", 0},
+                  {"$5", 0},
+                  {"0x10", 0},
+                  {"inf", 0},
+                  {"nan", 0},
+                  {"-Infinity", 0},
+                  {"１２", 0},
+                  {"−5", 0},
+                  {"\xC2\xA0"
+                   "5",
+                   0},
+                  {"\xC3(5", 0},
+                  {"\x80"
+                   "5",
+                   0},
+                  {"\xFF\xFE", 0}});
+}
+
+TEST(Val, TakesWhatNoDoubleHoldsToAnInfinityOrAZeroOfItsSign) {
+  const std::string zeros(10'000, '0');
+  ExpectReadings({{"-0", -0.0},
+                  {"-0e99999999999999999999", -0.0},
+                  {"1e999", kInfinity},
+                  {"-1e99999999999999999999", -kInfinity},
+                  {"1e-999", 0.0},
+                  {"-1e-99999999999999999999", -0.0},
+                  {std::string(10'000, '9'), kInfinity},
+                  {"-" + std::string(10'000, '9') + "e-9999", -10.0},
+                  {"1" + zeros, kInfinity},
+                  {"1" + zeros + "e-10000", 1.0},
+                  {"0." + zeros + "1", 0.0},
+                  {"-0." + zeros + "1e-5", -0.0},
+                  {"0." + zeros + "1e10001", 1.0},
+                  {zeros + "7", 7.0}});
+}
+
+TEST(Val, IsRoundedCorrectlyFromTheLeastNumberToTheGreatest) {
+  std::vector<std::string> texts = {
+      "2.4703282292062327e-324",  "2.4703282292062328e-324",       "2.2250738585072011e-308",
+      "1.7976931348623158e308",   "1.7976931348623159e308",        "9007199254740993",
+      "9007199254740992.9999999", "0." + std::string(10'000, '3'), std::string(309, '9')};
+  std::mt19937_64 random(1);
+  for (int count = 0; count < 20'000; ++count) {
+    std::string digits = std::to_string(random()) + std::to_string(random());
+    digits.resize(1 + random() % digits.size());
+    digits.insert(random() % (digits.size() + 1), ".");
+    texts.push_back(digits + "e" + std::to_string(static_cast<int>(random() % 700) - 350));
+  }
+  for (const std::string& text : texts) {
+    ASSERT_EQ(Bits(Val(text)), Bits(std::strtod(text.c_str(), nullptr))) << text;
+  }
+}
+
+TEST(Str, WritesEveryDigitOfAWholeNumber) {
+  EXPECT_EQ(Str(0), "0");
+  EXPECT_EQ(Str(-21), "-21");
+  EXPECT_EQ(Str(1234567), "1234567");
+  EXPECT_EQ(Str(kLowest), "-9223372036854775808");
+}
+
+TEST(Len, CountsCharactersAndEachInvalidByteAsOne) {
+  EXPECT_EQ(Len(""), 0U);
+  EXPECT_EQ(Len("1,234"), 5U);
+  EXPECT_EQ(Len("é€😀"), 3U);
+  EXPECT_EQ(Len("\xE2\x82"), 2U) << "a character cut short";
+  EXPECT_EQ(Len("\xC0\xAF\xE0\x80\x80"), 5U) << "longer forms than needed";
+  EXPECT_EQ(Len("\xED\xA0\x80\xF4\x90\x80\x80"), 7U) << "code points that are none";
+  EXPECT_EQ(Len("\xFF"
+                "a\x80"),
+            3U);
+}
+
+TEST(Chr, MakesOneCharacterOfACodePoint) {
+  EXPECT_EQ(Chr(9), "\t");
+  EXPECT_EQ(Chr(0), std::string(1, '\0'));
+  EXPECT_EQ(Chr(0xE9) + Chr(0x20AC) + Chr(0x1F600), "é€😀");
+  EXPECT_EQ(Chr(0xD800) + Chr(0x110000), "\uFFFD\uFFFD");
+}
+
+TEST(ReplaceAll, ReplacesEveryOccurrenceFromTheLeft) {
+  EXPECT_EQ(ReplaceAll(",1,,234,", ",", ""), "1234");
+  EXPECT_EQ(ReplaceAll("aaa", "aa", "b"), "ba");
+  EXPECT_EQ(ReplaceAll("a", "a", "aa"), "aa");
+  EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
+  EXPECT_EQ(ReplaceAll("", ",", "x"), "");
+}
+
+TEST(Round, TakesAHalfAwayFromZero) {
+  EXPECT_EQ(Round(0.5), 1.0);
+  EXPECT_EQ(Round(-2.5), -3.0);
+  EXPECT_EQ(Round(0.49999999999999994), 0.0);
+  EXPECT_EQ(Round(4503599627370497.5), 4503599627370498.0);
+}
+
+TEST(Truncated, GoesTowardZeroAndGivesTheLowestForWhatDoesNotFit) {
+  EXPECT_EQ(Truncated(60.9), 60);
+  EXPECT_EQ(Truncated(-0.9), 0);
+  EXPECT_EQ(Truncated(9223372036854774784.0), 9223372036854774784);
+  EXPECT_EQ(Truncated(-9223372036854775808.0), kLowest);
+  for (const double beyond : {9223372036854775808.0, -9223372036854777856.0, kInfinity, -kInfinity,
+                              std::numeric_limits<double>::quiet_NaN()}) {
+    EXPECT_EQ(Truncated(beyond), kLowest) << beyond;
+  }
+}
+
+}  // namespace
+}  // namespace fundlet
