@@ -1,0 +1,102 @@
+# shellcheck shell=bash
+# To be sourced. Installs what a purpose needs and the machine lacks, through Debian's packages.
+
+# Purpose, package, and the command that shows it to be there already, whoever installed it.
+# A dash stands for a library or data, of which only the package manager knows.
+package_table() {
+  cat <<'TABLE'
+build   cmake             cmake
+build   ninja-build       ninja
+build   g++               c++
+build   qt6-base-dev      -
+wayland qt6-wayland       -
+screen  xvfb              Xvfb
+screen  openbox           openbox
+screen  xdotool           xdotool
+screen  imagemagick       import
+tests   libgtest-dev      -
+tests   locales           localedef
+tests   fonts-dejavu-core -
+tests   fonts-liberation  -
+tests   fonts-noto-core   -
+lint    clang-format      clang-format
+lint    clang-tidy        clang-tidy
+lint    cppcheck          cppcheck
+bench   libbenchmark-dev  -
+bench   python3           python3
+TABLE
+}
+
+# The tests run under these besides C: a decimal comma, and an i without a dot.
+test_locales='de_DE tr_TR'
+
+have() { command -v "$1" >/dev/null 2>&1; }
+
+fail() {
+  printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+  exit 1
+}
+
+package_is_there() {
+  local package=$1 command=$2
+  if [ "$command" != - ] && have "$command"; then return 0; fi
+  if have dpkg-query; then
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ]
+  else
+    # Elsewhere a library's absence is for CMake to report.
+    [ "$command" = - ]
+  fi
+}
+
+missing_packages() {
+  local wanted=" $* " purpose package command
+  while read -r purpose package command; do
+    case $wanted in *" $purpose "*) ;; *) continue ;; esac
+    package_is_there "$package" "$command" || printf '%s ' "$package"
+  done < <(package_table)
+}
+
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+can_be_root() {
+  [ "$(id -u)" -eq 0 ] || { have sudo && { [ -t 0 ] || sudo -n true 2>/dev/null; }; }
+}
+
+apt_get() {
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300 "$@"
+}
+
+# install_for PURPOSE...
+install_for() {
+  local missing
+  missing=$(missing_packages "$@")
+  missing=${missing% }
+  [ -n "$missing" ] || return 0
+  have apt-get || fail "This machine lacks what Debian's packages $missing hold, and there is no
+apt-get to install them. Install their like by this system's own means: CMake 3.25, Ninja, a
+compiler of C++20 and the Qt 6.4 Widgets with their headers are what the program is built with."
+  can_be_root || fail "These packages are missing: $missing
+Only root can install them, and there is no sudo that lets you. As root, run
+  apt-get install --no-install-recommends $missing
+and then start this again."
+  printf 'Installing with apt-get: %s\n' "$missing"
+  # shellcheck disable=SC2086  # one word for each package
+  { apt_get update && apt_get install -y --no-install-recommends $missing; } ||
+    fail "apt-get could not install $missing
+Its own words stand above. It needs the network, and a release as new as Debian 12."
+}
+
+install_locales() {
+  local locale
+  for locale in $test_locales; do
+    if locale -a | grep -ix "$locale\.utf-\?8" >/dev/null; then continue; fi
+    can_be_root || fail "The tests need the locale $locale.UTF-8. As root, run
+  localedef -i $locale -f UTF-8 $locale.UTF-8
+and then start this again."
+    printf 'Making the locale %s.UTF-8\n' "$locale"
+    as_root localedef -i "$locale" -f UTF-8 "$locale.UTF-8" ||
+      fail "The locale $locale.UTF-8 could not be made."
+  done
+}
