@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <limits>
 #include <random>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -17,64 +19,33 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr const char* kDollars = "###,###,##0";
 
-struct Sample {
-  double number;
-  const char* mask;
-  const char* text;
-};
-
-void ExpectTexts(const std::vector<Sample>& samples) {
-  for (const auto& [number, mask, text] : samples) {
-    EXPECT_EQ(Format(number, mask), text) << number << " under " << mask;
-  }
+// The texts of several numbers under one mask, with blanks between them.
+std::string Shown(const char* mask, const std::vector<double>& numbers) {
+  std::string shown;
+  for (const double number : numbers) shown += (shown.empty() ? "" : " ") + Format(number, mask);
+  return shown;
 }
 
 TEST(Format, ShowsTheDigitsThatTheMaskAsksFor) {
-  ExpectTexts({{1234567, kDollars, "1,234,567"},
-               {1234.56, kDollars, "1,235"},
-               {0, kDollars, "0"},
-               {999, "##,##0", "999"},
-               {99999, "##,##0", "99,999"},
-               {73325, "#,###,###,##0", "73,325"},
-               {3, "#0.0#", "3.0"},
-               {3.5, "#0.0#", "3.5"},
-               {3.456, "#0.0#", "3.46"},
-               {3.125, "##0.0##", "3.125"},
-               {2.126, "##0.0##", "2.126"},
-               {0, "##0.0##", "0.0"},
-               {100.0 * 0.03, "##0.0##", "3.0"},
-               {0.05, "#0.0#", "0.05"},
-               {10.10, "##0.0##", "10.1"},
-               {5e-324, "##0.0##", "0.0"}});
+  EXPECT_EQ(Shown(kDollars, {1234567, 1234.56, 100, 0}), "1,234,567 1,235 100 0");
+  EXPECT_EQ(Shown("##,##0", {0, 999, 1000, 99999}), "0 999 1,000 99,999");
+  EXPECT_EQ(Shown("#0.0#", {0, 3, 3.5, 3.456, 0.05, 99.99}), "0.0 3.0 3.5 3.46 0.05 99.99");
+  EXPECT_EQ(Shown("##0.0##", {0, 2.5, 3.125, 2.126, 10.1, 5e-324}), "0.0 2.5 3.125 2.126 10.1 0.0");
 }
 
 TEST(Format, RoundsTheExactValueAndAHalfAwayFromZero) {
-  ExpectTexts({{3.125, "#0.0#", "3.13"},
-               {2.675, "#0.0#", "2.67"},
-               {1.005, "#0.0#", "1.0"},
-               {0.5, kDollars, "1"},
-               {2.5, kDollars, "3"},
-               {-2.5, kDollars, "-3"},
-               {0.0625, "##0.0##", "0.063"},
-               {0.49999999999999994, kDollars, "0"},
-               {999.5, kDollars, "1,000"},
-               {99.995, "#0.0#", "100.0"},
-               {9.9996, "##0.0##", "10.0"}});
+  EXPECT_EQ(Shown("#0.0#", {3.125, 2.675, 1.005, 99.995, -3.125}), "3.13 2.67 1.0 100.0 -3.13");
+  EXPECT_EQ(Shown("##0.0##", {0.0625, 9.9996}), "0.063 10.0");
+  EXPECT_EQ(Shown(kDollars, {0.5, 2.5, -2.5, 0.49999999999999994, 999.5}), "1 3 -3 0 1,000");
 }
 
 TEST(Format, KeepsEveryDigitBeforeThePoint) {
-  ExpectTexts({{1e9, kDollars, "1,000,000,000"},
-               {1e23, "##,##0", "99,999,999,999,999,991,611,392"},
-               {12345.678, "#0.0#", "12345.68"}});
+  EXPECT_EQ(Shown(kDollars, {1e9, 1e23}), "1,000,000,000 99,999,999,999,999,991,611,392");
+  EXPECT_EQ(Shown("#0.0#", {12345.678}), "12345.68");
 }
 
 TEST(Format, HasAMinusSignUnlessItShowsZero) {
-  ExpectTexts({{-1234.4, kDollars, "-1,234"},
-               {-999, kDollars, "-999"},
-               {-3.456, "#0.0#", "-3.46"},
-               {-0.49, kDollars, "0"},
-               {-0.0, "##0.0##", "0.0"},
-               {-0.5, kDollars, "-1"}});
+  EXPECT_EQ(Shown(kDollars, {-1234.4, -999, -0.5, -0.49, -0.0}), "-1,234 -999 -1 0 0");
 }
 
 TEST(Format, GivesAnInfinityATextThatReadsAsTheSame) {

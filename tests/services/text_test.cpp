@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <limits>
 #include <random>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -17,92 +19,36 @@ constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
 
 std::uint64_t Bits(double number) { return std::bit_cast<std::uint64_t>(number); }
 
-struct Reading {
-  std::string text;
-  double value;
-};
-
-void ExpectReadings(const std::vector<Reading>& readings) {
-  for (const auto& [text, value] : readings) {
+void ExpectEachReadsAs(double value, const std::vector<std::string>& texts) {
+  for (const std::string& text : texts) {
     EXPECT_EQ(Bits(Val(text)), Bits(value)) << "'" << text.substr(0, 40) << "' gave " << Val(text);
   }
 }
 
 TEST(Val, ReadsTheNumberThatATextBeginsWith) {
-  ExpectReadings({{"12", 12},
-                  {" \t-12.5 x", -12.5},
-                  {"+7", 7},
-                  {".5", 0.5},
-                  {"5.", 5},
-                  {"-.5e1", -5},
-                  {"5.e2", 500},
-                  {"1e3", 1000},
-                  {"1E+3", 1000},
-                  {"1e-3", 0.001},
-                  {"1e", 1},
-                  {"1e+", 1},
-                  {"1e3.5", 1000},
-                  {"1 e3", 1},
-                  {"1.2.3", 1.2},
-                  {"1,234", 1},
-                  {"1-2", 1},
-                  {"12abc", 12},
-                  {"1d3", 1},
-                  {"007", 7},
-                  {"1\0"
-                   "2",
-                   1},
-                  {"7\xFF", 7},
-                  {"5１", 5},
-                  {"2½", 2}});
+  ExpectEachReadsAs(
+      12, {"12", " \t12", "+12", "12.", "12.0", "0012", "1.2e1", "1.2E+1", "120e-1", ".12e2"});
+  ExpectEachReadsAs(12, {"12 x", "12abc", "12,345", "12-3", "12 e3", "12d3", "12e", "12e+", "12e-x",
+                         "12.0.5", "1.2e1.5", "12\n3", "12\377", "12１", "12½", "12$"});
+  ExpectEachReadsAs(-0.5, {"-.5", " -0.5%", "-5e-1", "-00.50-"});
 }
 
 TEST(Val, GivesZeroForATextThatBeginsWithNoNumber) {
-  ExpectReadings({{"", 0},
-                  {"  ", 0},
-                  {"abc", 0},
-                  {".", 0},
-                  {"-", 0},
-                  {"- 5", 0},
-                  {"--5", 0},
-                  {"+-5", 0},
-                  {".e5", 0},
-                  {"e5", 0},
-                  {"\n5", 0},
-                  {",5", 0},
-                  {"$5", 0},
-                  {"0x10", 0},
-                  {"inf", 0},
-                  {"nan", 0},
-                  {"-Infinity", 0},
-                  {"１２", 0},
-                  {"−5", 0},
-                  {"\xC2\xA0"
-                   "5",
-                   0},
-                  {"\xC3(5", 0},
-                  {"\x80"
-                   "5",
-                   0},
-                  {"\xFF\xFE", 0}});
+  ExpectEachReadsAs(0, {"",          "  ",   "abc", ".",       "-",      "- 5",   "--5",     "+-5",
+                        ".e5",       "e5",   "\n5", ",5",      "$5",     "0x10",  "inf",     "nan",
+                        "-Infinity", "１２", "−5",  "\u00A05", "\303(5", "\2005", "\377\376"});
 }
 
 TEST(Val, TakesWhatNoDoubleHoldsToAnInfinityOrAZeroOfItsSign) {
   const std::string zeros(10'000, '0');
-  ExpectReadings({{"-0", -0.0},
-                  {"-0e99999999999999999999", -0.0},
-                  {"1e999", kInfinity},
-                  {"-1e99999999999999999999", -kInfinity},
-                  {"1e-999", 0.0},
-                  {"-1e-99999999999999999999", -0.0},
-                  {std::string(10'000, '9'), kInfinity},
-                  {"-" + std::string(10'000, '9') + "e-9999", -10.0},
-                  {"1" + zeros, kInfinity},
-                  {"1" + zeros + "e-10000", 1.0},
-                  {"0." + zeros + "1", 0.0},
-                  {"-0." + zeros + "1e-5", -0.0},
-                  {"0." + zeros + "1e10001", 1.0},
-                  {zeros + "7", 7.0}});
+  const std::string nines(10'000, '9');
+  ExpectEachReadsAs(kInfinity,
+                    {"1e999", "1e99999999999999999999", nines, "1" + zeros, nines + "e-9"});
+  ExpectEachReadsAs(-kInfinity, {"-1e309", "-" + nines});
+  ExpectEachReadsAs(0.0,
+                    {"1e-999", "1e-99999999999999999999", "0." + zeros + "1", "0e99999999999"});
+  ExpectEachReadsAs(-0.0, {"-0", "-1e-999", "-0." + zeros + "1e5", "-0e99999999999"});
+  ExpectEachReadsAs(1, {"1" + zeros + "e-10000", "0." + zeros + "1e10001", zeros + "1"});
 }
 
 TEST(Val, IsRoundedCorrectlyFromTheLeastNumberToTheGreatest) {
@@ -136,9 +82,7 @@ TEST(Len, CountsCharactersAndEachInvalidByteAsOne) {
   EXPECT_EQ(Len("\xE2\x82"), 2U) << "a character cut short";
   EXPECT_EQ(Len("\xC0\xAF\xE0\x80\x80"), 5U) << "longer forms than needed";
   EXPECT_EQ(Len("\xED\xA0\x80\xF4\x90\x80\x80"), 7U) << "code points that are none";
-  EXPECT_EQ(Len("\xFF"
-                "a\x80"),
-            3U);
+  EXPECT_EQ(Len("\377a\200"), 3U);
 }
 
 TEST(Chr, MakesOneCharacterOfACodePoint) {

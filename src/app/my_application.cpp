@@ -1,0 +1,29 @@
+#include "app/my_application.h"
+
+#include "ui/default_menu.h"
+#include "ui/global_module.h"
+#include "ui/main_window.h"
+
+namespace fundlet {
+
+void MyApplication::_EarlyStartup() {
+  _SetSupportsHiDPI(true);
+  static MyApplication application;
+  application.Menus = &DefaultMenu::Instance();
+  RegisterApplication(application);
+}
+
+void MyApplication::_LateStartup() { _MakeDefaultView(); }
+
+void MyApplication::_MakeDefaultView() { aFundletWindow::Instance(); }
+
+int RunFundlet(const char* program) {
+  Runtime runtime(program);
+  GlobalModule::Initialise();
+  runtime.Start(&MyApplication::_EarlyStartup, &MyApplication::_LateStartup);
+  const int status = runtime.Run();
+  GlobalModule::Release();
+  return status;
+}
+
+}  // namespace fundlet

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace fundlet {
+
+// Shows the toolkit's about box with the program's picture, name and version, over the frontmost
+// window, until the user closes it.
+void ShowAboutBox();
+
+}  // namespace fundlet

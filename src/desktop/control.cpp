@@ -1,0 +1,160 @@
+#include "desktop/control.h"
+
+#include <array>
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QWidget>
+
+#include "desktop/native_window.h"
+#include "desktop/qt_text.h"
+#include "desktop/text_fit.h"
+#include "desktop/window.h"
+
+namespace fundlet {
+
+Control::Control(Window& window, QWidget* native) : window_(window), native_(native) {
+  native_->setParent(&window.Native().Content());
+}
+
+int Control::Left() const { return native_->x(); }
+int Control::Top() const { return native_->y(); }
+int Control::Width() const { return native_->width(); }
+int Control::Height() const { return native_->height(); }
+
+void Control::SetLeft(std::int64_t left) { native_->move(static_cast<int>(left), Top()); }
+void Control::SetTop(std::int64_t top) { native_->move(Left(), static_cast<int>(top)); }
+
+void Control::SetWidth(std::int64_t width) {
+  native_->setFixedWidth(static_cast<int>(width));
+  FitText();
+}
+
+void Control::SetHeight(std::int64_t height) { native_->setFixedHeight(static_cast<int>(height)); }
+
+bool Control::Visible() const { return !native_->isHidden(); }
+void Control::SetVisible(bool visible) { native_->setVisible(visible); }
+bool Control::Enabled() const { return native_->isEnabled(); }
+void Control::SetEnabled(bool enabled) { native_->setEnabled(enabled); }
+
+void Control::SetHelpTag(std::string_view text) {
+  const QString plain = ToQt(text).replace('\r', '\n');
+  native_->setAccessibleDescription(plain);
+  // Only a rich text is wrapped where it is too long for one line.
+  native_->setToolTip(plain.isEmpty()
+                          ? QString()
+                          : "<qt>" + plain.toHtmlEscaped().replace('\n', "<br>") + "</qt>");
+}
+
+void Control::Refresh(bool at_once) {
+  if (at_once) {
+    native_->repaint();
+  } else {
+    native_->update();
+  }
+}
+
+void Control::SetFocus() {
+  native_->setFocus(Qt::OtherFocusReason);
+  // While the window is not the active one, the toolkit only notes where the focus is to be.
+  window_.FocusCame(*this);
+}
+
+void Control::SetName(std::string_view name) {
+  name_ = name;
+  native_->setObjectName(ToQt(name));
+}
+
+void Control::SetTabIndex(std::int64_t index) { tab_index_ = static_cast<int>(index); }
+
+std::string Control::Described() const { return "control “" + name_ + "”"; }
+
+const PropertySetter* Control::FindSetter(std::string_view name) const {
+  static constexpr std::array kRows = {
+      PropertyRow{"AutoDeactivate", kNoEffect<bool>},
+      PropertyRow{"Enabled", SetThrough<&Control::SetEnabled>::kFunction},
+      PropertyRow{"Height", SetThrough<&Control::SetHeight>::kFunction},
+      PropertyRow{"HelpTag", SetThrough<&Control::SetHelpTag>::kFunction},
+      PropertyRow{"Index", kNoEffect<std::int64_t>},
+      PropertyRow{"InitialParent", kNoEffect<std::string_view>},
+      PropertyRow{"Left", SetThrough<&Control::SetLeft>::kFunction},
+      PropertyRow{"LockBottom", kNoEffect<bool>},
+      PropertyRow{"LockLeft", kNoEffect<bool>},
+      PropertyRow{"LockRight", kNoEffect<bool>},
+      PropertyRow{"LockTop", kNoEffect<bool>},
+      PropertyRow{"Name", SetThrough<&Control::SetName>::kFunction},
+      PropertyRow{"TabIndex", SetThrough<&Control::SetTabIndex>::kFunction},
+      PropertyRow{"TabPanelIndex", kNoEffect<std::int64_t>},
+      PropertyRow{"TabStop", kNoEffect<bool>},
+      PropertyRow{"Top", SetThrough<&Control::SetTop>::kFunction},
+      PropertyRow{"Visible", SetThrough<&Control::SetVisible>::kFunction},
+      PropertyRow{"Width", SetThrough<&Control::SetWidth>::kFunction},
+  };
+  return FindIn(kRows, name);
+}
+
+namespace {
+
+constexpr const char* kSystemFont = "System";
+
+// A family of the name that the desktop has, or the nearest to it in style that it has.
+QString AvailableFamily(const std::string& family) {
+  if (family == kSystemFont) return QGuiApplication::font().family();
+  for (const char* humanist : {family.c_str(), "Verdana", "DejaVu Sans", "Noto Sans", "Open Sans",
+                               "Lucida Grande", "Segoe UI", "Liberation Sans"}) {
+    if (QFontDatabase::hasFamily(humanist)) return humanist;
+  }
+  return QGuiApplication::font().family();
+}
+
+}  // namespace
+
+void TextControl::SetTextFont(std::string_view family) {
+  family_ = family;
+  FitText();
+}
+
+void TextControl::SetTextSize(float pixels) {
+  pixels_ = pixels;
+  FitText();
+}
+
+void TextControl::SetBold(bool bold) {
+  bold_ = bold;
+  FitText();
+}
+
+void TextControl::SetItalic(bool italic) {
+  italic_ = italic;
+  FitText();
+}
+
+void TextControl::SetUnderline(bool underline) {
+  underline_ = underline;
+  FitText();
+}
+
+void TextControl::FitText() {
+  QFont font(AvailableFamily(family_));
+  font.setPixelSize(static_cast<int>(pixels_));
+  font.setBold(bold_);
+  font.setItalic(italic_);
+  font.setUnderline(underline_);
+  const QFont fitted = NarrowedToFit(font, ToQt(WidestText()), TextRoom());
+  if (fitted != Native()->font()) Native()->setFont(fitted);
+}
+
+const PropertySetter* TextControl::FindSetter(std::string_view name) const {
+  static constexpr std::array kRows = {
+      PropertyRow{"Bold", SetThrough<&TextControl::SetBold>::kFunction},
+      PropertyRow{"Italic", SetThrough<&TextControl::SetItalic>::kFunction},
+      PropertyRow{"TextFont", SetThrough<&TextControl::SetTextFont>::kFunction},
+      PropertyRow{"TextSize", SetThrough<&TextControl::SetTextSize>::kFunction},
+      PropertyRow{"TextUnit", kNoEffect<bool>},
+      PropertyRow{"Underline", SetThrough<&TextControl::SetUnderline>::kFunction},
+  };
+  const PropertySetter* own = FindIn(kRows, name);
+  return own != nullptr ? own : Control::FindSetter(name);
+}
+
+}  // namespace fundlet

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <string>
+
+#include "desktop/property_set.h"
+
+class QWidget;
+
+namespace fundlet {
+
+class Window;
+
+// What all controls of a window have in common. Positions and sizes are in pixels of the window's
+// content area, with the origin at its top left.
+//
+// The control's object belongs to its window, which is given at construction and outlives it.
+class Control : public PropertyTarget {
+ public:
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string& Name() const { return name_; }
+  int Left() const;
+  int Top() const;
+  int Width() const;
+  int Height() const;
+  void SetLeft(std::int64_t left);
+  void SetTop(std::int64_t top);
+  void SetWidth(std::int64_t width);
+  void SetHeight(std::int64_t height);
+
+  bool Visible() const;
+  void SetVisible(bool visible);
+  bool Enabled() const;
+  void SetEnabled(bool enabled);
+  // Shown when the pointer rests on the control, enabled or not; a carriage return in it ends a
+  // line. Also the control's description for a screen reader.
+  void SetHelpTag(std::string_view text);
+
+  // Repaints the control: with True before this returns, else with the next events.
+  void Refresh(bool at_once);
+  // Gives the control the keyboard focus. The handlers of both controls have run when it returns.
+  void SetFocus();
+
+  int TabIndex() const { return tab_index_; }
+  QWidget* Native() const { return native_; }
+
+  // The focus has come, or gone. The window calls these; they run the program's handlers.
+  virtual void FireGotFocus() {}
+  virtual void FireLostFocus() {}
+
+ protected:
+  Control(Window& window, QWidget* native);
+  std::string Described() const override;
+  const PropertySetter* FindSetter(std::string_view name) const override;
+
+  Window& OwnerWindow() const { return window_; }
+  // The size or a text has changed, so that the text may have to be narrowed anew.
+  virtual void FitText() {}
+
+ private:
+  friend class Window;
+
+  void SetName(std::string_view name);
+  void SetTabIndex(std::int64_t index);
+
+  Window& window_;
+  QWidget* native_;  // owned by the window's own widget
+  std::string name_;
+  int tab_index_ = 0;
+};
+
+// The font of a control with a text: a family, or "System" for that of the desktop, and a size in
+// pixels. A text that is wider than its place is narrowed until it fits.
+class TextControl : public Control {
+ public:
+  void SetTextFont(std::string_view family);
+  void SetTextSize(float pixels);
+  void SetBold(bool bold);
+  void SetItalic(bool italic);
+  void SetUnderline(bool underline);
+
+ protected:
+  using Control::Control;
+  const PropertySetter* FindSetter(std::string_view name) const override;
+  void FitText() override;
+
+  // The widest text that must be seen whole, and the pixels it has.
+  virtual std::string WidestText() const { return {}; }
+  virtual int TextRoom() const { return Width(); }
+
+ private:
+  std::string family_ = "System";
+  float pixels_ = 12.0F;
+  bool bold_ = false;
+  bool italic_ = false;
+  bool underline_ = false;
+};
+
+}  // namespace fundlet

@@ -1,0 +1,159 @@
+#include "desktop/held_input.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+
+#include "desktop/native_window.h"
+#include "desktop/program_gate.h"
+#include "services/background.h"
+
+namespace fundlet {
+
+namespace {
+
+// How often a computation lets the toolkit work. The yields between two looks at the clock take
+// some tenths of a millisecond.
+constexpr qint64 kPumpMilliseconds = 8;
+constexpr int kYieldsPerLook = 20'000;
+
+HeldInput* instance = nullptr;
+
+bool IsUserInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu:
+    case QEvent::Close: return true;
+    default: return false;
+  }
+}
+
+bool IsKey(const QEvent& event) {
+  return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
+         event.type() == QEvent::ShortcutOverride;
+}
+
+bool IsCancelGesture(const QEvent& event) {
+  if (!IsKey(event)) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+  return (key.key() == Qt::Key_Escape && modifiers == Qt::NoModifier) ||
+         (key.key() == Qt::Key_Period && modifiers == Qt::ControlModifier);
+}
+
+}  // namespace
+
+HeldInput::HeldInput() {
+  instance = this;
+  QCoreApplication::instance()->installEventFilter(this);
+  SetBackgroundTask(&HeldInput::Pump);
+  ProgramGate::Instance().SetIdleHandler([this] { ScheduleReplay(); });
+}
+
+HeldInput::~HeldInput() {
+  ProgramGate::Instance().SetIdleHandler(nullptr);
+  SetBackgroundTask(nullptr);
+  instance = nullptr;
+}
+
+int HeldInput::Pump() {
+  static QElapsedTimer since_last;
+  const bool due = !since_last.isValid() || since_last.elapsed() >= kPumpMilliseconds;
+  if (due && ProgramGate::Instance().Busy() && !instance->pumping_) {
+    instance->pumping_ = true;
+    QCoreApplication::processEvents();
+    instance->pumping_ = false;
+    since_last.start();
+  }
+  return kYieldsPerLook;
+}
+
+bool HeldInput::MustHold() const {
+  const bool behind_held = !held_.empty() && !replaying_ && !ProgramGate::Instance().Busy();
+  return pumping_ || behind_held;
+}
+
+bool HeldInput::eventFilter(QObject* object, QEvent* event) {
+  if (!IsUserInput(*event)) return false;
+  if (pumping_ && IsCancelGesture(*event)) {
+    if (event->type() == QEvent::KeyPress) SetUserCancelled(true);
+    event->accept();
+    return true;
+  }
+  if (MustHold()) return Hold(object, event);
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto* key = static_cast<const QKeyEvent*>(event);
+    if (NativeWindow* window = NativeWindow::Of(object); window != nullptr) {
+      window->BeforeShortcut(key->keyCombination());
+    }
+  }
+  return false;
+}
+
+bool HeldInput::Hold(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::Close) {
+    event->ignore();
+  } else {
+    event->accept();
+  }
+  // A shortcut is looked for when its key is delivered.
+  if (event->type() != QEvent::ShortcutOverride) {
+    held_.push_back({object, std::unique_ptr<QEvent>(event->clone())});
+  }
+  return true;
+}
+
+void HeldInput::ScheduleReplay() {
+  if (held_.empty() || replay_scheduled_) return;
+  replay_scheduled_ = true;
+  QMetaObject::invokeMethod(this, [this] { ReplayNext(); }, Qt::QueuedConnection);
+}
+
+void HeldInput::ReplayNext() {
+  replay_scheduled_ = false;
+  // The gate calls again when it is idle.
+  if (held_.empty() || ProgramGate::Instance().Busy()) return;
+  const Held next = std::move(held_.front());
+  held_.pop_front();
+  if (next.receiver) {
+    replaying_ = true;
+    Deliver(*next.receiver, *next.event);
+    replaying_ = false;
+  }
+  ScheduleReplay();
+}
+
+void HeldInput::Deliver(QObject& receiver, QEvent& event) {
+  if (event.type() == QEvent::KeyPress) {
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    QKeyEvent override(QEvent::ShortcutOverride, key.key(), key.modifiers(), key.text(),
+                       key.isAutoRepeat());
+    override.ignore();
+    QCoreApplication::sendEvent(&receiver, &override);
+    NativeWindow* window = NativeWindow::Of(&receiver);
+    if (!override.isAccepted() && window != nullptr &&
+        window->TriggerShortcut(key.keyCombination())) {
+      return;
+    }
+  }
+  QCoreApplication::sendEvent(&receiver, &event);
+}
+
+}  // namespace fundlet

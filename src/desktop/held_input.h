@@ -1,0 +1,46 @@
+#pragma once
+
+#include <deque>
+#include <memory>
+
+#include <QEvent>
+#include <QObject>
+#include <QPointer>
+
+namespace fundlet {
+
+// What the user does while a computation runs. The yields of the computation let the toolkit paint
+// and move on every few milliseconds; the keys, clicks and requests to close that come meanwhile
+// are held, and handed on in their order when the handler that computes has returned. The gesture
+// that cancels (Escape, or Ctrl and full stop; Cmd on a Mac) is the exception: it takes effect at
+// once.
+//
+// It is also the place that sees each key before the toolkit looks up its shortcut, and so lets
+// the front window decide first which menu items can be chosen.
+class HeldInput : public QObject {
+ public:
+  HeldInput();
+  ~HeldInput() override;
+
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  struct Held {
+    QPointer<QObject> receiver;
+    std::unique_ptr<QEvent> event;
+  };
+
+  static int Pump();
+  bool MustHold() const;
+  bool Hold(QObject* object, QEvent* event);
+  void ScheduleReplay();
+  void ReplayNext();
+  static void Deliver(QObject& receiver, QEvent& event);
+
+  std::deque<Held> held_;
+  bool pumping_ = false;
+  bool replaying_ = false;
+  bool replay_scheduled_ = false;
+};
+
+}  // namespace fundlet

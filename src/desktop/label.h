@@ -1,0 +1,24 @@
+#pragma once
+
+#include "desktop/control.h"
+
+namespace fundlet {
+
+// One line of text that cannot be edited.
+class Label : public TextControl {
+ public:
+  explicit Label(Window& window);
+
+  std::string Text() const;
+  void SetText(std::string_view text);
+  void SetTextAlign(std::int64_t align);  // 0 left, 1 centre, 2 right
+  void SetTextColor(Colour colour);
+  // Makes this the label of a control: its text is the control's name for a screen reader.
+  void SetLabelFor(const Control& control);
+
+ protected:
+  const PropertySetter* FindSetter(std::string_view name) const override;
+  std::string WidestText() const override { return Text(); }
+};
+
+}  // namespace fundlet

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fundlet {
+
+// One item of the menus, found by its name, which is unique in the whole tree. The tree is data; a
+// window shows it.
+//
+// An item whose text is "-" is a separator line. An empty item has no text and is not shown; an
+// item whose children are all empty works as a command.
+class MenuItem {
+ public:
+  virtual ~MenuItem() = default;
+
+  std::string Name;
+  std::string Text;
+  bool AutoEnable = false;  // enabled without the program's doing where it can do something
+  bool Visible = false;
+  std::string KeyboardShortcut;  // such as "Cmd+S"; empty for none
+
+  void Append(std::unique_ptr<MenuItem> item);
+  // The direct child of that name; NilObjectException where there is none.
+  MenuItem& Child(std::string_view name) const;
+  // The item of that name at any depth; NilObjectException where there is none.
+  MenuItem& _Lookup(std::string_view name) const;
+
+  // Whether the item can be chosen, as the present update of the menus has it.
+  void Enable() { enabled_ = true; }
+  void Disable() { enabled_ = false; }
+  bool Enabled() const { return enabled_; }
+
+  bool IsSeparator() const { return Text == "-"; }
+  bool IsShown() const { return Visible && !Text.empty(); }
+  bool OpensMenu() const;
+  const std::vector<std::unique_ptr<MenuItem>>& Children() const { return children_; }
+  // Calls the function for this item's descendants, depth first, in their order.
+  void ForEach(const std::function<void(MenuItem&)>& visit) const;
+
+ private:
+  MenuItem* Find(std::string_view name) const;
+
+  std::vector<std::unique_ptr<MenuItem>> children_;
+  bool enabled_ = false;
+};
+
+// The item that ends the program without any code of the program.
+class QuitMenuItem : public MenuItem {};
+
+// An item that a platform with an application menu shows there.
+class AppleMenuItem : public MenuItem {};
+
+// The root of a tree of items; its children are the menus of the bar.
+class MenuBar : public MenuItem {};
+
+}  // namespace fundlet

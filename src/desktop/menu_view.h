@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QKeyCombination>
+#include <vector>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace fundlet {
+
+class MenuItem;
+class Window;
+
+// One window's menus on the screen, made from the tree of items. The tree exists once; so does the
+// action behind each command, which all windows share. The bar and the menus are the window's own.
+class MenuView {
+ public:
+  MenuView(Window& window, const MenuItem& tree, QMenuBar& bar);
+
+  // Shows which items are enabled.
+  void ShowEnabling();
+  // True where the keys are the shortcut of an item.
+  bool HasShortcut(QKeyCombination keys) const;
+  // Chooses the item whose shortcut the keys are; True where there is one that is enabled.
+  bool TriggerShortcut(QKeyCombination keys);
+
+ private:
+  struct Shown {
+    MenuItem* item;
+    QAction* action;
+  };
+
+  void AddItem(QMenu& menu, MenuItem& item);
+  void AddMenuTo(QMenu& menu, MenuItem& item);
+  void Fill(QMenu& menu, MenuItem& item);
+
+  Window& window_;
+  std::vector<Shown> shown_;
+};
+
+}  // namespace fundlet

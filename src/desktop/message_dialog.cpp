@@ -1,0 +1,36 @@
+#include "desktop/message_dialog.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "desktop/native_window.h"
+#include "desktop/program_gate.h"
+#include "desktop/qt_text.h"
+#include "desktop/window.h"
+
+namespace fundlet {
+
+namespace {
+
+constexpr int kCautionIcon = 1;
+
+}  // namespace
+
+const MessageDialogButton& MessageDialog::ShowModalWithin(Window* window) {
+  QMessageBox box(window != nullptr ? &window->Native() : nullptr);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(Message));
+  box.setWindowTitle(QApplication::applicationName());
+  box.setIcon(Icon == kCautionIcon ? QMessageBox::Warning : QMessageBox::NoIcon);
+  auto* button = box.addButton(ToQt(ActionButton.Caption), QMessageBox::AcceptRole);
+  box.setDefaultButton(button);
+  box.setEscapeButton(button);
+  box.exec();
+  if (window != nullptr) window->DialogClosed();
+  return ActionButton;
+}
+
+void Beep() { QApplication::beep(); }
+
+}  // namespace fundlet

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+namespace fundlet {
+
+class Window;
+
+// The button that dismisses a message.
+struct MessageDialogButton {
+  std::string Caption = "OK";
+};
+
+// A message that the user has to dismiss. Texts are UTF-8 and are shown as they are.
+class MessageDialog {
+ public:
+  std::string Message;
+  int Icon = 0;  // 0 none, 1 caution
+  MessageDialogButton ActionButton;
+
+  // Shows the message over the given window, or by itself where there is none, and returns when it
+  // has been dismissed: by its button, Return, Escape or its close box. The window is activated
+  // once the handler that called this has returned.
+  const MessageDialogButton& ShowModalWithin(Window* window);
+};
+
+// The system's alert sound.
+void Beep();
+
+}  // namespace fundlet

@@ -1,0 +1,180 @@
+#include "desktop/native_window.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMenuBar>
+#include <QPalette>
+#include <QWindow>
+
+#include "desktop/program_gate.h"
+#include "desktop/push_button.h"
+#include "desktop/qt_text.h"
+#include "desktop/window.h"
+#include "services/text.h"
+
+namespace fundlet {
+
+namespace {
+
+constexpr int kHelpCode = 5;
+
+#ifdef Q_OS_MACOS
+constexpr auto kControlModifier = Qt::MetaModifier;
+#else
+constexpr auto kControlModifier = Qt::ControlModifier;
+#endif
+
+// The colours of a window that paints its own background: they go with that background and not
+// with the theme of the desktop, so that every text can be read under any theme.
+QPalette PaletteFor(const QColor& background) {
+  const QColor button(0xF4, 0xF4, 0xF1);
+  const QColor selection(0x12, 0x57, 0x9C);
+  const QColor dimmed(0x66, 0x66, 0x66);
+  QPalette palette(button, background);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::ButtonText, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, dimmed);
+  palette.setColor(QPalette::Highlight, selection);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, dimmed);
+  }
+  return palette;
+}
+
+}  // namespace
+
+std::string KeyText(const QKeyEvent& event) {
+  const bool control_e = event.key() == Qt::Key_E && event.modifiers() == kControlModifier;
+  if (event.key() == Qt::Key_Help || event.key() == Qt::Key_F1 || control_e) return Chr(kHelpCode);
+  return FromQt(event.text());
+}
+
+NativeWindow::NativeWindow(Window& window) : window_(window) {
+  setAttribute(Qt::WA_DeleteOnClose, false);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                 Qt::WindowSystemMenuHint);
+  setCentralWidget(new QWidget(this));
+  centralWidget()->installEventFilter(this);
+}
+
+NativeWindow* NativeWindow::Of(QObject* object) {
+  if (auto* widget = qobject_cast<QWidget*>(object)) {
+    return dynamic_cast<NativeWindow*>(widget->window());
+  }
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    auto* window = dynamic_cast<NativeWindow*>(top);
+    if (window != nullptr && window->windowHandle() == object) return window;
+  }
+  return nullptr;
+}
+
+Window* NativeWindow::Active() {
+  if (QApplication::activeModalWidget() != nullptr) return nullptr;
+  auto* active = dynamic_cast<NativeWindow*>(QApplication::activeWindow());
+  return active != nullptr ? &active->window_ : Window::Front();
+}
+
+void NativeWindow::SetContentSize(int width, int height) {
+  content_size_ = {width, height};
+  FitToContent();
+}
+
+QSize NativeWindow::ContentSize() const {
+  return isVisible() && resizeable_ ? centralWidget()->size() : content_size_;
+}
+
+void NativeWindow::SetSmallest(int width, int height) {
+  smallest_ = {width, height};
+  FitToContent();
+}
+
+void NativeWindow::SetResizeable(bool resizeable) {
+  resizeable_ = resizeable;
+  FitToContent();
+}
+
+void NativeWindow::FitToContent() {
+  if (!resizeable_) {
+    centralWidget()->setFixedSize(content_size_);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    return;
+  }
+  layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+  centralWidget()->setMinimumSize(smallest_);
+  centralWidget()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  const int menu_height = menus_ ? menuBar()->sizeHint().height() : 0;
+  resize(content_size_ + QSize(0, menu_height));
+}
+
+void NativeWindow::SetButton(Qt::WindowType button, bool present) {
+  setWindowFlag(button, present);
+}
+
+void NativeWindow::SetBackColor(Colour colour) {
+  centralWidget()->setPalette(PaletteFor(QColor(colour.red, colour.green, colour.blue)));
+}
+
+void NativeWindow::SetHasBackColor(bool painted) { centralWidget()->setAutoFillBackground(painted); }
+
+void NativeWindow::ShowMenus() {
+  if (!menu_bar_visible_) return;
+  menus_ = std::make_unique<MenuView>(window_, window_.Menus(), *menuBar());
+  FitToContent();
+}
+
+void NativeWindow::BeforeShortcut(QKeyCombination keys) {
+  if (menus_ && menus_->HasShortcut(keys)) window_.EnableMenuItems();
+}
+
+bool NativeWindow::TriggerShortcut(QKeyCombination keys) {
+  return menus_ && menus_->TriggerShortcut(keys);
+}
+
+void NativeWindow::ShowEnabling() {
+  if (menus_) menus_->ShowEnabling();
+}
+
+bool NativeWindow::HandleKey(const QKeyEvent& event) {
+  const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool return_key = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  PushButton* button = nullptr;
+  if (plain && return_key) button = window_.DefaultButton();
+  if (plain && event.key() == Qt::Key_Escape) button = window_.CancelButton();
+  if (button != nullptr && !event.isAutoRepeat()) button->Press();
+  return button != nullptr;
+}
+
+bool NativeWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) window_.Activated();
+  if (event->type() == QEvent::WindowDeactivate) window_.Deactivated();
+  return QMainWindow::event(event);
+}
+
+void NativeWindow::closeEvent(QCloseEvent* event) {
+  ProgramGate::Instance().Enter("Close", [this] { window_.Close(); });
+  event->setAccepted(!window_.IsOpen());
+}
+
+void NativeWindow::keyPressEvent(QKeyEvent* event) {
+  bool used = HandleKey(*event);
+  const std::string key = KeyText(*event);
+  if (!used && !key.empty()) {
+    ProgramGate::Instance().EnterWithin("Key",
+                                        [&] { used = window_.Event_KeyDown(key); });
+  }
+  event->setAccepted(used);
+}
+
+bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
+  if (object == centralWidget() && event->type() == QEvent::Resize && resizeable_ && isVisible()) {
+    ProgramGate::Instance().EnterWithin("Resize", [this] { window_.Event_Resized(); });
+  }
+  return QMainWindow::eventFilter(object, event);
+}
+
+}  // namespace fundlet

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <memory>
+
+#include <QKeyCombination>
+#include <QMainWindow>
+
+#include "desktop/menu_view.h"
+#include "desktop/property_set.h"
+
+namespace fundlet {
+
+class Window;
+
+// The toolkit's side of a window: a main window whose central widget is the content area.
+class NativeWindow : public QMainWindow {
+ public:
+  explicit NativeWindow(Window& window);
+
+  // The window that an object of the toolkit, a widget or a native window, belongs to; null for
+  // those of dialogs.
+  static NativeWindow* Of(QObject* object);
+  // The program's window that the user works with; null while that is a dialog.
+  static Window* Active();
+
+  Window& Program() const { return window_; }
+  QWidget& Content() const { return *centralWidget(); }
+
+  void SetContentSize(int width, int height);
+  QSize ContentSize() const;
+  void SetSmallest(int width, int height);
+  QSize Smallest() const { return smallest_; }
+  void SetResizeable(bool resizeable);
+  void SetButton(Qt::WindowType button, bool present);
+  void SetBackColor(Colour colour);
+  void SetHasBackColor(bool painted);
+  void SetMenuBarVisible(bool visible) { menu_bar_visible_ = visible; }
+
+  // Makes the menus; to be called once the window's set of menus is settled.
+  void ShowMenus();
+  // Runs the enabling pass when the keys are the shortcut of an item.
+  void BeforeShortcut(QKeyCombination keys);
+  bool TriggerShortcut(QKeyCombination keys);
+  void ShowEnabling();
+
+  // What a key means that no control has used up: the default or cancel button, or the program's
+  // own. True where it meant something.
+  bool HandleKey(const QKeyEvent& event);
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
+  QMenu* createPopupMenu() override { return nullptr; }
+
+ private:
+  void FitToContent();
+
+  Window& window_;
+  std::unique_ptr<MenuView> menus_;
+  QSize content_size_ = {0, 0};
+  QSize smallest_ = {0, 0};
+  bool resizeable_ = false;
+  bool menu_bar_visible_ = true;
+};
+
+// The one-character text of a key, empty for a key that has none. The Help key, F1 and control-E
+// all give the character of code 5.
+std::string KeyText(const QKeyEvent& event);
+
+}  // namespace fundlet

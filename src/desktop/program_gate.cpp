@@ -1,0 +1,85 @@
+#include "desktop/program_gate.h"
+
+#include <cstdio>
+#include <utility>
+
+#include "desktop/message_dialog.h"
+#include "desktop/window.h"
+#include "services/background.h"
+
+namespace fundlet {
+
+namespace {
+
+std::string Reason(const std::exception_ptr& failure) {
+  try {
+    std::rethrow_exception(failure);
+  } catch (const RuntimeException& error) {
+    return error.what();
+  } catch (const std::bad_alloc&) {
+    return "There is not enough memory. Close other programs and try again.";
+  } catch (const std::exception& error) {
+    return "The program met a fault of its own (" + std::string(error.what()) + ").";
+  } catch (...) {
+    return "The program met a fault of its own.";
+  }
+}
+
+void ShowLastResort(const std::string& what, const std::exception_ptr& failure) noexcept {
+  try {
+    MessageDialog dialog;
+    dialog.Message = "“" + what + "” could not be carried out. " + Reason(failure);
+    dialog.Icon = 1;
+    Beep();
+    dialog.ShowModalWithin(Window::Front());
+  } catch (...) {
+    std::fputs("Fundlet could not show an alert.\n", stderr);
+  }
+}
+
+}  // namespace
+
+ProgramGate& ProgramGate::Instance() {
+  static ProgramGate gate;
+  return gate;
+}
+
+void ProgramGate::RunGuarded(const std::string& what, const std::function<void()>& handler) {
+  ++depth_;
+  try {
+    handler();
+  } catch (...) {
+    ShowLastResort(what, std::current_exception());
+  }
+  --depth_;
+}
+
+void ProgramGate::Enter(const std::string& what, std::function<void()> handler) {
+  waiting_.push_back({what, std::move(handler)});
+  if (!Busy()) RunWaiting();
+}
+
+void ProgramGate::RunWaiting() {
+  while (!waiting_.empty() && !shut_) {
+    const Entry entry = std::move(waiting_.front());
+    waiting_.pop_front();
+    SetUserCancelled(false);
+    RunGuarded(entry.what, entry.handler);
+  }
+  if (idle_handler_) idle_handler_();
+}
+
+void ProgramGate::EnterWithin(const std::string& what, const std::function<void()>& handler) {
+  if (Busy()) {
+    RunGuarded(what, handler);
+  } else {
+    Enter(what, handler);
+  }
+}
+
+void ProgramGate::Shut() {
+  shut_ = true;
+  waiting_.clear();
+}
+
+}  // namespace fundlet

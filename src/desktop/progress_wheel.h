@@ -1,0 +1,13 @@
+#pragma once
+
+#include "desktop/control.h"
+
+namespace fundlet {
+
+// A small wheel that turns while it is visible, to show that the program is busy.
+class ProgressWheel : public Control {
+ public:
+  explicit ProgressWheel(Window& window);
+};
+
+}  // namespace fundlet

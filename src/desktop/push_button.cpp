@@ -1,0 +1,70 @@
+#include "desktop/push_button.h"
+
+#include <array>
+
+#include <QPushButton>
+
+#include "desktop/focus_reporting.h"
+#include "desktop/qt_text.h"
+
+namespace fundlet {
+
+namespace {
+
+using ButtonWidget = FocusReporting<QPushButton>;
+
+ButtonWidget& ButtonOf(const Control& control) {
+  return static_cast<ButtonWidget&>(*control.Native());
+}
+
+}  // namespace
+
+PushButton::PushButton(Window& window) : TextControl(window, new ButtonWidget(window, *this)) {
+  ButtonWidget& button = ButtonOf(*this);
+  button.setFocusPolicy(Qt::TabFocus);
+  button.setAutoDefault(false);
+  QObject::connect(&button, &QPushButton::clicked, &button, [this] {
+    ProgramGate::Instance().Enter(Caption(), [this] {
+      if (Action) Action(*this);
+    });
+  });
+}
+
+std::string PushButton::Caption() const {
+  return FromQt(ButtonOf(*this).text().replace("&&", "&"));
+}
+
+void PushButton::SetCaption(std::string_view caption) {
+  ButtonOf(*this).setText(ToQt(caption).replace('&', "&&"));
+  FitText();
+}
+
+void PushButton::SetDefault(bool is_default) {
+  if (!is_default) return;
+  ButtonOf(*this).setDefault(true);
+  OwnerWindow().SetDefaultButton(this);
+}
+
+void PushButton::SetCancel(bool is_cancel) {
+  if (is_cancel) OwnerWindow().SetCancelButton(this);
+}
+
+void PushButton::Press() { ButtonOf(*this).click(); }
+
+int PushButton::TextRoom() const {
+  constexpr int kFrames = 10;
+  return Width() - kFrames;
+}
+
+const PropertySetter* PushButton::FindSetter(std::string_view name) const {
+  static constexpr std::array kRows = {
+      PropertyRow{"ButtonStyle", kNoEffect<std::int64_t>},
+      PropertyRow{"Cancel", SetThrough<&PushButton::SetCancel>::kFunction},
+      PropertyRow{"Caption", SetThrough<&PushButton::SetCaption>::kFunction},
+      PropertyRow{"Default", SetThrough<&PushButton::SetDefault>::kFunction},
+  };
+  const PropertySetter* own = FindIn(kRows, name);
+  return own != nullptr ? own : TextControl::FindSetter(name);
+}
+
+}  // namespace fundlet

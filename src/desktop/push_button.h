@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+
+#include "desktop/control.h"
+
+namespace fundlet {
+
+// A button with a caption. The mouse presses it without taking the focus from a field; Tab brings
+// the focus to it, and the space bar presses it then.
+class PushButton : public TextControl {
+ public:
+  explicit PushButton(Window& window);
+
+  std::string Caption() const;
+  void SetCaption(std::string_view caption);
+  // The window's default button, which Return presses.
+  void SetDefault(bool is_default);
+  // The window's cancel button, which Escape presses.
+  void SetCancel(bool is_cancel);
+
+  // Presses the button as a person would; a dimmed one does nothing.
+  void Press();
+
+  std::function<void(PushButton&)> Action;
+
+ protected:
+  const PropertySetter* FindSetter(std::string_view name) const override;
+  std::string WidestText() const override { return Caption(); }
+  int TextRoom() const override;
+};
+
+}  // namespace fundlet

@@ -1,0 +1,85 @@
+#include "desktop/runtime.h"
+
+#include <map>
+#include <utility>
+
+#include <QApplication>
+
+#include "desktop/held_input.h"
+#include "desktop/program_gate.h"
+
+namespace fundlet {
+
+namespace {
+
+Application* application = nullptr;
+std::map<std::string, std::unique_ptr<Window>> implicit_instances;
+
+}  // namespace
+
+void Application::_SetSupportsHiDPI(bool supports) {
+  if (!supports) return;
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+      Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+Application& App() {
+  if (application == nullptr) throw NilObjectException("The program has not started yet.");
+  return *application;
+}
+
+void RegisterApplication(Application& registered) { application = &registered; }
+
+void Quit(int status) {
+  ProgramGate::Instance().Shut();
+  QCoreApplication::exit(status);
+}
+
+Window& ImplicitInstance(const std::string& class_name,
+                         const std::function<std::unique_ptr<Window>()>& make) {
+  std::unique_ptr<Window>& instance = implicit_instances[class_name];
+  if (!instance) instance = make();
+  return *instance;
+}
+
+struct Runtime::Parts {
+  explicit Parts(std::string name) : program(std::move(name)) {}
+
+  std::string program;
+  int argument_count = 1;
+  char* arguments[2] = {program.data(), nullptr};
+  std::unique_ptr<QApplication> toolkit;
+  std::unique_ptr<HeldInput> held_input;
+};
+
+Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {
+  ProgramGate::Instance().Reopen();
+}
+
+Runtime::~Runtime() {
+  ProgramGate::Instance().Shut();
+  implicit_instances.clear();
+  application = nullptr;
+}
+
+void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {
+  early();
+#ifdef Q_OS_LINUX
+  // The style whose controls fit the heights of the layout.
+  QApplication::setStyle("Fusion");
+#endif
+  parts_->toolkit = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
+  QApplication::setApplicationName("Fundlet");
+  QApplication::setApplicationVersion("5");
+  QApplication::setDesktopFileName("fundlet");
+  QApplication::setQuitOnLastWindowClosed(false);
+  parts_->held_input = std::make_unique<HeldInput>();
+  ProgramGate::Instance().Enter("Start", late);
+}
+
+int Runtime::Run() {
+  if (Window::Front() == nullptr) return 1;
+  return QApplication::exec();
+}
+
+}  // namespace fundlet

@@ -1,0 +1,24 @@
+#include "desktop/separator.h"
+
+#include <QPainter>
+#include <QWidget>
+
+namespace fundlet {
+
+namespace {
+
+class RuleWidget : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    QColor colour = palette().color(QPalette::WindowText);
+    colour.setAlphaF(0.35F);
+    painter.fillRect(0, height() / 2 - 1, width(), 1, colour);
+  }
+};
+
+}  // namespace
+
+Separator::Separator(Window& window) : Control(window, new RuleWidget) {}
+
+}  // namespace fundlet

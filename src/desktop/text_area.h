@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+
+#include "desktop/control.h"
+
+namespace fundlet {
+
+// A text of many lines, wrapped at the control's width. A line ends in a carriage return. Offsets
+// and lengths count characters.
+class TextArea : public TextControl {
+ public:
+  explicit TextArea(Window& window);
+
+  std::string Text() const;
+  void SetText(std::string_view text);
+  void SetSelStart(std::int64_t start);
+  void SetSelLength(std::int64_t length);
+  std::int64_t SelStart() const;
+  std::int64_t SelLength() const;
+  void SetReadOnly(bool read_only);
+  void SetScrollbarVertical(bool shown);
+  void SetScrollbarHorizontal(bool shown);  // without it, long lines wrap
+  void SetBorder(bool border);
+  void SetBackColor(Colour colour);
+  void SetTextColor(Colour colour);
+
+  std::function<void(TextArea&)> GotFocus;
+
+  void FireGotFocus() override;
+
+ protected:
+  const PropertySetter* FindSetter(std::string_view name) const override;
+
+ private:
+  std::int64_t sel_start_ = 0;
+};
+
+}  // namespace fundlet

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+
+#include "desktop/control.h"
+
+namespace fundlet {
+
+// A one-line text that the user can edit. Offsets and lengths count characters.
+class TextField : public TextControl {
+ public:
+  explicit TextField(Window& window);
+
+  std::string Text() const;
+  // What the program writes stands, also where it is longer than the limit.
+  void SetText(std::string_view text);
+  void SetSelStart(std::int64_t start);    // puts the caret there; nothing is selected then
+  void SetSelLength(std::int64_t length);  // selects from SelStart
+  std::int64_t SelStart() const;
+  std::int64_t SelLength() const;
+  // The largest number of characters that typing and pasting can bring the text to; 0 for none.
+  void SetLimitText(std::int64_t limit);
+  void SetAlignment(std::int64_t alignment);  // 0 and 1 left, 2 centre, 3 right
+  void SetReadOnly(bool read_only);
+  void SetPassword(bool password);
+  void SetBorder(bool border);
+  void SetBackColor(Colour colour);
+  void SetTextColor(Colour colour);
+  void SetCueText(std::string_view text);
+
+  // The focus has come to the field, or gone from it.
+  std::function<void(TextField&)> GotFocus;
+  std::function<void(TextField&)> LostFocus;
+  // A key was pressed, given as its one-character text, before the field acts on it. True uses the
+  // key up.
+  std::function<bool(TextField&, const std::string& key)> KeyDown;
+
+  void FireGotFocus() override;
+  void FireLostFocus() override;
+
+ protected:
+  const PropertySetter* FindSetter(std::string_view name) const override;
+  std::string WidestText() const override { return widest_text_; }
+  int TextRoom() const override;
+
+ private:
+  void UpdateTypingLimit(int present_length);
+
+  int limit_ = 0;
+  std::int64_t sel_start_ = 0;
+  std::string widest_text_;  // of those within the limit that the program has written
+};
+
+}  // namespace fundlet

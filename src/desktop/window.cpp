@@ -1,0 +1,216 @@
+#include "desktop/window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+
+#include "desktop/edit_commands.h"
+#include "desktop/native_window.h"
+#include "desktop/program_gate.h"
+#include "desktop/qt_text.h"
+#include "desktop/runtime.h"
+#include "desktop/screen.h"
+
+namespace fundlet {
+
+namespace {
+
+// The visible windows, the frontmost last.
+std::vector<Window*>& Stack() {
+  static std::vector<Window*> stack;
+  return stack;
+}
+
+}  // namespace
+
+Window::Window() : native_(std::make_unique<NativeWindow>(*this)) {}
+
+Window::~Window() {
+  std::erase(Stack(), this);
+  focused_ = nullptr;
+}
+
+Window* Window::Front() { return Stack().empty() ? nullptr : Stack().back(); }
+
+int Window::Width() const { return native_->ContentSize().width(); }
+int Window::Height() const { return native_->ContentSize().height(); }
+int Window::Left() const { return native_->geometry().left(); }
+int Window::Top() const { return native_->geometry().top(); }
+
+void Window::SetLeft(std::int64_t left) {
+  native_->setGeometry(QRect(QPoint(static_cast<int>(left), Top()), native_->size()));
+}
+
+void Window::SetTop(std::int64_t top) {
+  native_->setGeometry(QRect(QPoint(Left(), static_cast<int>(top)), native_->size()));
+}
+
+void Window::SetWidth(std::int64_t width) {
+  native_->SetContentSize(static_cast<int>(width), Height());
+}
+
+void Window::SetHeight(std::int64_t height) {
+  native_->SetContentSize(Width(), static_cast<int>(height));
+}
+
+void Window::SetTitle(std::string_view title) { native_->setWindowTitle(ToQt(title)); }
+
+MenuBar& Window::Menus() const {
+  if (menu_bar_ != nullptr) return *menu_bar_;
+  if (App().Menus != nullptr) return *App().Menus;
+  throw NilObjectException("There are no menus to show in the window.");
+}
+
+void Window::_AddMenuHandler(const std::string& item_name, std::function<bool()> handler) {
+  menu_handlers_[item_name] = std::move(handler);
+}
+
+void Window::_AddControl(const std::string& name, std::unique_ptr<Control> control) {
+  control->SetName(name);
+  controls_.push_back(std::move(control));
+}
+
+Control& Window::_ControlByName(std::string_view name) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [name](const auto& control) { return control->Name() == name; });
+  if (found != controls_.end()) return **found;
+  throw NilObjectException("The window has no control “" + std::string(name) + "”.");
+}
+
+void Window::Open() {
+  open_ = true;
+  ProgramGate::Instance().EnterWithin("Open", [this] { Event_Open(); });
+}
+
+void Window::Show() {
+  if (!open_) return;
+  if (!shown_once_) {
+    FirstShow();
+    return;
+  }
+  native_->showNormal();
+  native_->raise();
+  native_->activateWindow();
+}
+
+void Window::FirstShow() {
+  shown_once_ = true;
+  ApplyTabOrder();
+  native_->ShowMenus();
+  if (centred_) {
+    const Screen screen(0);
+    SetLeft(screen.AvailableLeft() + (screen.AvailableWidth() - Width()) / 2);
+    SetTop(screen.AvailableTop() + (screen.AvailableHeight() - Height()) / 2);
+  }
+  native_->show();
+  native_->raise();
+  native_->activateWindow();
+  if (QWidget* first = native_->Content().nextInFocusChain(); first != nullptr) {
+    const auto owner = std::find_if(controls_.begin(), controls_.end(), [first](const auto& control) {
+      return control->Native() == first;
+    });
+    if (owner != controls_.end()) (*owner)->SetFocus();
+  }
+  Activated();
+}
+
+// Tab goes through the controls by rising TabIndex; those that are equal in it keep the order in
+// which they were made.
+void Window::ApplyTabOrder() {
+  std::vector<Control*> order;
+  for (const auto& control : controls_) {
+    if (control->Native()->focusPolicy() != Qt::NoFocus) order.push_back(control.get());
+  }
+  std::stable_sort(order.begin(), order.end(), [](const Control* a, const Control* b) {
+    return a->TabIndex() < b->TabIndex();
+  });
+  QWidget* before = &native_->Content();
+  for (const Control* control : order) {
+    QWidget::setTabOrder(before, control->Native());
+    before = control->Native();
+  }
+}
+
+void Window::Close() {
+  if (!open_) return;
+  open_ = false;
+  native_->hide();
+  std::erase(Stack(), this);
+  ProgramGate::Instance().EnterWithin("Close", [this] { Event_Close(); });
+}
+
+void Window::ClearFocus() {
+  if (QWidget* widget = native_->focusWidget(); widget != nullptr) widget->clearFocus();
+  if (focused_ != nullptr) FocusWent(*focused_);
+}
+
+void Window::Activated() {
+  if (!open_) return;
+  std::erase(Stack(), this);
+  Stack().push_back(this);
+  if (activation_due_) return;
+  activation_due_ = true;
+  ProgramGate::Instance().Enter("Activate", [this] {
+    activation_due_ = false;
+    if (open_) Event_Activate();
+  });
+}
+
+void Window::Deactivated() {
+  if (focused_ != nullptr) FocusWent(*focused_);
+}
+
+void Window::DialogClosed() {
+  native_->activateWindow();
+  Activated();
+}
+
+void Window::FocusCame(Control& control) {
+  if (focused_ == &control) return;
+  Control* before = std::exchange(focused_, &control);
+  ProgramGate::Instance().EnterWithin("Focus", [&] {
+    if (before != nullptr) before->FireLostFocus();
+    control.FireGotFocus();
+  });
+}
+
+void Window::FocusWent(Control& control) {
+  if (focused_ != &control) return;
+  focused_ = nullptr;
+  ProgramGate::Instance().EnterWithin("Focus", [&] { control.FireLostFocus(); });
+}
+
+bool Window::AbleByItself(const MenuItem& item) const {
+  if (!item.AutoEnable) return false;
+  if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return true;
+  if (IsEditCommand(item.Name)) return CanEdit(item.Name, focused_);
+  return menu_handlers_.contains(item.Name);
+}
+
+void Window::EnableMenuItems() {
+  MenuBar& menus = Menus();
+  menus.ForEach([this](MenuItem& item) {
+    if (AbleByItself(item)) {
+      item.Enable();
+    } else {
+      item.Disable();
+    }
+  });
+  ProgramGate::Instance().EnterWithin("Menus", [this] { Event_EnableMenuItems(); });
+  native_->ShowEnabling();
+}
+
+void Window::Choose(MenuItem& item) {
+  EnableMenuItems();
+  if (!item.Enabled()) return;
+  if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) {
+    Quit(0);
+  } else if (const auto handler = menu_handlers_.find(item.Name); handler != menu_handlers_.end()) {
+    ProgramGate::Instance().Enter(item.Text, handler->second);
+  } else if (IsEditCommand(item.Name)) {
+    Edit(item.Name, focused_);
+  }
+}
+
+}  // namespace fundlet

@@ -1,0 +1,133 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <typeinfo>
+#include <vector>
+
+#include "desktop/control.h"
+#include "desktop/menu.h"
+#include "desktop/property_set.h"
+#include "services/exceptions.h"
+
+namespace fundlet {
+
+class NativeWindow;
+class PushButton;
+
+// A top-level window with controls at fixed places. A program's window derives from it, makes its
+// controls in its constructor, and overrides the events it cares for. Sizes are those of the
+// content area, in pixels; a menu bar inside the window is not part of it.
+//
+// No event of a window or control is delivered while another one is being handled, except for
+// those of the focus: it waits until that handler has returned.
+class Window : public PropertyTarget {
+ public:
+  Window();
+  ~Window() override;
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  int Width() const;
+  int Height() const;
+  int Left() const;  // of the window without its frame
+  int Top() const;
+  void SetLeft(std::int64_t left);
+  void SetTop(std::int64_t top);
+  void SetWidth(std::int64_t width);
+  void SetHeight(std::int64_t height);
+  void SetTitle(std::string_view title);
+
+  // The menus of this window; without any, it shows the application's.
+  void SetMenuBar(MenuBar& menu_bar) { menu_bar_ = &menu_bar; }
+  MenuBar& Menus() const;
+  // Binds a method to the item of that name, for when it is chosen with this window in front.
+  void _AddMenuHandler(const std::string& item_name, std::function<bool()> handler);
+
+  // Takes the control into the window's registry under its name.
+  void _AddControl(const std::string& name, std::unique_ptr<Control> control);
+  // The control of that name; NilObjectException where there is none.
+  Control& _ControlByName(std::string_view name) const;
+  // The same, checked to be of the class asked for.
+  template <typename ControlClass>
+  ControlClass& ControlOf(std::string_view name) const;
+
+  // Fires Event_Open. To be called once, when the window's object stands.
+  void Open();
+  // Makes the window visible and brings it to the front. The first time it fires Event_Activate,
+  // with the focus on the first control in the order of the TabIndex.
+  void Show();
+  // Closes the window, and fires Event_Close, once.
+  void Close();
+  bool IsOpen() const { return open_; }
+  // Takes the focus from whatever control has it, so that its handler runs.
+  void ClearFocus();
+
+  // The frontmost window of the program, null where none is visible.
+  static Window* Front();
+
+  virtual void Event_Open() {}
+  virtual void Event_Activate() {}
+  virtual void Event_Close() {}
+  virtual void Event_EnableMenuItems() {}
+  virtual bool Event_KeyDown(const std::string& /*key*/) { return false; }
+  virtual void Event_Resized() {}
+
+  // What the rest of the desktop calls.
+  NativeWindow& Native() const { return *native_; }
+  // The window was activated, by the system or because a dialog over it has closed.
+  void Activated();
+  void Deactivated();
+  // A dialog over the window has closed: the window is activated once the handler that showed it
+  // has returned.
+  void DialogClosed();
+  // The focus has come to a control, or gone from it, for good and not for the time of a menu.
+  void FocusCame(Control& control);
+  void FocusWent(Control& control);
+  Control* Focused() const { return focused_; }
+  void SetDefaultButton(PushButton* button) { default_button_ = button; }
+  void SetCancelButton(PushButton* button) { cancel_button_ = button; }
+  PushButton* DefaultButton() const { return default_button_; }
+  PushButton* CancelButton() const { return cancel_button_; }
+  // The pass that decides which menu items can be chosen now.
+  void EnableMenuItems();
+  // Carries out a menu item that has been chosen with this window in front.
+  void Choose(MenuItem& item);
+
+ protected:
+  std::string Described() const override;
+  const PropertySetter* FindSetter(std::string_view name) const override;
+
+ private:
+  struct Properties;  // the setters that only a property set uses
+
+  void FirstShow();
+  void ApplyTabOrder();
+  bool AbleByItself(const MenuItem& item) const;
+
+  std::unique_ptr<NativeWindow> native_;
+  std::vector<std::unique_ptr<Control>> controls_;
+  std::map<std::string, std::function<bool()>, std::less<>> menu_handlers_;
+  MenuBar* menu_bar_ = nullptr;
+  PushButton* default_button_ = nullptr;
+  PushButton* cancel_button_ = nullptr;
+  Control* focused_ = nullptr;
+  bool centred_ = false;
+  bool open_ = false;
+  bool shown_once_ = false;
+  bool activation_due_ = false;
+};
+
+template <typename ControlClass>
+ControlClass& Window::ControlOf(std::string_view name) const {
+  auto* control = dynamic_cast<ControlClass*>(&_ControlByName(name));
+  if (control == nullptr) {
+    throw NilObjectException("The control “" + std::string(name) + "” is of another class.");
+  }
+  return *control;
+}
+
+}  // namespace fundlet

@@ -1,0 +1,112 @@
+#include "ui/default_menu.h"
+
+#include <array>
+#include <memory>
+#include <span>
+#include <utility>
+
+#include "desktop/runtime.h"
+
+namespace fundlet {
+
+namespace {
+
+enum class ItemClass { Plain, Quit, Apple };
+
+// One item, and the names of the items it lies under, from the bar downwards.
+struct ItemRow {
+  std::array<const char*, 3> parents;
+  const char* name;
+  const char* text;
+  const char* shortcut = "";
+  ItemClass item_class = ItemClass::Plain;
+};
+
+constexpr ItemRow kBeforeFile[] = {{{}, "UntitledMenu6", ""}};
+
+constexpr ItemRow kFile[] = {
+    {{}, "FileMenu", "File"},
+    {{"FileMenu"}, "FileSave", "Save Schedule", "Cmd+S"},
+    {{"FileMenu"}, "UntitledMenu5", "-"},
+    {{"FileMenu"}, "FileParams", "Remember Parameters", "Cmd+P"},
+    {{"FileMenu"}, "FileRestore", "Recall Parameters", "Cmd+R"},
+    {{"FileMenu"}, "UntitledMenu4", "-"},
+    {{"FileMenu"}, "FileQuit", "Quit", "Cmd+Q", ItemClass::Quit},
+    {{"FileMenu"}, "AppAbout", "About Fundlet…", "", ItemClass::Apple},
+    {{"FileMenu"}, "UntitledMenu12", ""},
+};
+
+constexpr ItemRow kEdit[] = {
+    {{}, "EditMenu", "Edit"},
+    {{"EditMenu"}, "EditUndo", "Undo", "Cmd+Z"},
+    {{"EditMenu"}, "UntitledMenu2", "-"},
+    {{"EditMenu"}, "EditCut", "Cut", "Cmd+X"},
+    {{"EditMenu"}, "EditCopy", "Copy", "Cmd+C"},
+    {{"EditMenu"}, "EditPaste", "Paste", "Cmd+V"},
+    {{"EditMenu"}, "EditClear", "Clear"},
+    {{"EditMenu"}, "UntitledMenu1", "-"},
+    {{"EditMenu"}, "EditSurvival", "Calculate life expectancy"},
+    {{"EditMenu", "EditSurvival"}, "Survival2", "when 1/2 survive", "Cmd+2"},
+    {{"EditMenu", "EditSurvival", "Survival2"}, "UntitledMenu11", ""},
+    {{"EditMenu", "EditSurvival"}, "Survival3", "when 1/4 survive", "Cmd+4"},
+    {{"EditMenu", "EditSurvival", "Survival3"}, "UntitledMenu10", ""},
+    {{"EditMenu", "EditSurvival"}, "Survival8", "when 1/8 survive", "Cmd+8"},
+    {{"EditMenu", "EditSurvival", "Survival8"}, "UntitledMenu9", ""},
+    {{"EditMenu", "EditSurvival"}, "UntitledMenu8", ""},
+    {{"EditMenu"}, "UntitledMenu7", ""},
+    {{"EditMenu"}, "UntitledMenu3", "", "", ItemClass::Apple},
+};
+
+constexpr ItemRow kBeforeHelp[] = {{{}, "UntitledMenu0", ""}};
+
+constexpr ItemRow kHelp[] = {
+    {{}, "HelpMenu", "Help"},
+    {{"HelpMenu"}, "HelpFundlet", "Fundlet Help…"},
+};
+
+std::unique_ptr<MenuItem> NewItem(ItemClass item_class) {
+  if (item_class == ItemClass::Quit) return std::make_unique<QuitMenuItem>();
+  if (item_class == ItemClass::Apple) return std::make_unique<AppleMenuItem>();
+  return std::make_unique<MenuItem>();
+}
+
+void Build(MenuBar& bar, std::span<const ItemRow> rows) {
+  for (const ItemRow& row : rows) {
+    std::unique_ptr<MenuItem> item = NewItem(row.item_class);
+    item->Name = row.name;
+    item->AutoEnable = true;
+    item->Text = row.text;
+    item->Visible = true;
+    item->KeyboardShortcut = row.shortcut;
+    MenuItem* parent = &bar;
+    for (const char* name : row.parents) {
+      if (name != nullptr) parent = &parent->Child(name);
+    }
+    parent->Append(std::move(item));
+  }
+}
+
+}  // namespace
+
+DefaultMenu& DefaultMenu::Instance() {
+  static DefaultMenu menu;
+  return menu;
+}
+
+DefaultMenu::DefaultMenu() {
+  Untitled0(*this);
+  Untitled1(*this);
+  Untitled2(*this);
+  Untitled3(*this);
+  Untitled4(*this);
+}
+
+void DefaultMenu::Untitled0(MenuBar& menu) { Build(menu, kBeforeFile); }
+void DefaultMenu::Untitled1(MenuBar& menu) { Build(menu, kFile); }
+void DefaultMenu::Untitled2(MenuBar& menu) { Build(menu, kEdit); }
+void DefaultMenu::Untitled3(MenuBar& menu) { Build(menu, kBeforeHelp); }
+void DefaultMenu::Untitled4(MenuBar& menu) { Build(menu, kHelp); }
+
+MenuItem& EditCopy() { return App().Menus->_Lookup("EditCopy"); }
+
+}  // namespace fundlet

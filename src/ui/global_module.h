@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace fundlet {
+
+class aHelpWindow;
+
+// The few things that the windows share.
+struct GlobalModule {
+  // Shows a message with the alert sound over the frontmost window, and returns when the user has
+  // dismissed it. Every message of the program goes through here.
+  static void AlertBox(const std::string& message);
+
+  // The start values, and the end of what the module holds.
+  static void Initialise();
+  static void Release();
+
+  static bool HelpShowing;                         // a Help window is open
+  static std::shared_ptr<aHelpWindow> HelpWindow;  // the one made last, open or closed
+};
+
+}  // namespace fundlet

@@ -1,0 +1,103 @@
+#include "ui/help_window.h"
+
+#include <memory>
+
+#include "ui/default_menu.h"
+#include "ui/global_module.h"
+#include "ui/help_text.h"
+#include "ui/property_orders.h"
+
+namespace fundlet {
+
+namespace {
+
+constexpr int kWidth = 498;
+constexpr int kHeight = 430;
+constexpr int kTextWidth = 452;
+constexpr int kTextHeight = 356;
+
+// Where the button goes once the window has been resized, at the size of creation. It is not quite
+// where it stands before.
+constexpr int kResizedButtonLeft = 403;
+constexpr int kResizedButtonTop = 395;
+
+}  // namespace
+
+aHelpWindow::aHelpWindow() {
+  Layout();
+  CreateControls();
+  AddMenuHandlers();
+}
+
+void aHelpWindow::ShowHelp() {
+  if (!GlobalModule::HelpShowing) {
+    GlobalModule::HelpWindow = std::make_shared<aHelpWindow>();
+    GlobalModule::HelpWindow->Open();
+  }
+  GlobalModule::HelpWindow->Show();
+}
+
+void aHelpWindow::Layout() {
+  static constexpr Property kOwn[] = {
+      {"Title", "Fundlet Help"}, {"Width", kWidth},    {"Height", kHeight}, {"MinWidth", 400},
+      {"MinHeight", 300},        {"Resizeable", true}, {"Placement", 2},
+  };
+  _SetProperties(EncodePropertySet(order::OfWindow(), kOwn));
+}
+
+void aHelpWindow::CreateControls() { _CreateControls0(); }
+
+void aHelpWindow::_CreateControls0() {
+  const std::string text = HelpText();
+  const Property text_field[] = {
+      {"Name", "TextField"},   {"Left", 20},  {"Top", 20},   {"Width", kTextWidth},
+      {"Height", kTextHeight}, {"TabIndex", 0}, {"Text", text},
+  };
+  _AddControl("TextField", std::make_unique<fundlet::TextArea>(*this));
+  TextField()._SetProperties(EncodePropertySet(order::OfTextArea(), text_field));
+  TextField().GotFocus = [this](fundlet::TextArea& area) { TextField_GotFocus(area); };
+
+  static constexpr Property kDoneButton[] = {
+      {"Name", "DoneButton"}, {"Left", 405},   {"Top", 392},         {"Width", 69},
+      {"Height", 18},         {"TabIndex", 1}, {"Caption", "Close"}, {"Default", true},
+  };
+  _AddControl("DoneButton", std::make_unique<PushButton>(*this));
+  DoneButton()._SetProperties(EncodePropertySet(order::OfPushButton(), kDoneButton));
+  DoneButton().Action = [this](PushButton& button) { DoneButton_Action(button); };
+}
+
+fundlet::TextArea& aHelpWindow::TextField() const {
+  return ControlOf<fundlet::TextArea>("TextField");
+}
+
+PushButton& aHelpWindow::DoneButton() const { return ControlOf<PushButton>("DoneButton"); }
+
+void aHelpWindow::TextField_GotFocus(fundlet::TextArea& area) {
+  area.SetSelStart(0);
+  area.SetSelLength(0);
+}
+
+void aHelpWindow::DoneButton_Action(PushButton& /*button*/) { Close(); }
+
+void aHelpWindow::AddMenuHandlers() {
+  _AddMenuHandler("HelpFundlet", [this] { return _HelpFundlet_Action(); });
+}
+
+void aHelpWindow::Event_Resized() {
+  TextField().SetHeight(Height() - kHeight + kTextHeight);
+  TextField().SetWidth(Width() - kWidth + kTextWidth);
+  DoneButton().SetTop(Height() - kHeight + kResizedButtonTop);
+  DoneButton().SetLeft(Width() - kWidth + kResizedButtonLeft);
+}
+
+void aHelpWindow::Event_Close() { GlobalModule::HelpShowing = false; }
+
+void aHelpWindow::Event_EnableMenuItems() {
+  if (TextField().SelLength() > 0) EditCopy().Enable();
+}
+
+void aHelpWindow::Event_Open() { GlobalModule::HelpShowing = true; }
+
+bool aHelpWindow::_HelpFundlet_Action() { return false; }
+
+}  // namespace fundlet

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "desktop/push_button.h"
+#include "desktop/text_area.h"
+#include "desktop/window.h"
+
+namespace fundlet {
+
+// The window with the one page of help: its text is read-only, and its two controls follow its
+// size. At most one is open; a closed one is never shown again.
+class aHelpWindow : public Window {
+ public:
+  aHelpWindow();
+
+  // Brings the open help window to the front, or makes a new one where none is open.
+  static void ShowHelp();
+
+  void Layout();
+  void CreateControls();
+  void _CreateControls0();
+  fundlet::TextArea& TextField() const;
+  PushButton& DoneButton() const;
+
+  void TextField_GotFocus(fundlet::TextArea& area);
+  void DoneButton_Action(PushButton& button);
+  void AddMenuHandlers();
+  void Event_Resized() override;
+  void Event_Close() override;
+  void Event_EnableMenuItems() override;
+  void Event_Open() override;
+  // With this window in front, asking for the help changes nothing.
+  bool _HelpFundlet_Action();
+};
+
+}  // namespace fundlet

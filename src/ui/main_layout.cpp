@@ -1,0 +1,143 @@
+#include "ui/main_layout.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "desktop/property_set.h"
+#include "services/text.h"
+#include "ui/property_orders.h"
+
+namespace fundlet::main_layout {
+
+namespace {
+
+using enum ControlClass;
+
+constexpr ControlRow kControls[] = {
+    {"StaticText1", Label, 19, 22, 107, 20, 0, "Start with 1 Jan:"},
+    {"StartYearField", TextField, 128, 22, 39, 20, 1, "9999",
+     "Enter the year in which you will first draw money from your fundlet."},
+    {"StaticText2", Label, 195, 22, 86, 20, 2, "Age on 1 Jan:"},
+    {"StartAgeField", TextField, 285, 22, 24, 20, 3, "99",
+     "Enter your age in years (52-95) on January 1st of the first year."},
+    {"StaticText3", Label, 319, 22, 38, 20, 4, "Years"},
+    {"StaticText4", Label, 387, 22, 100, 20, 5, "Life Expectancy:"},
+    {"YearsLeftField", TextField, 495, 22, 24, 20, 6, "99",
+     "Enter the number of years (4-40) you expect to live after the first year.\r\rUse the Edit "
+     "menu to fill in standard life expectancies."},
+    {"StaticText5", Label, 531, 22, 40, 20, 7, "Years"},
+    {"StaticText6", Label, 618, 22, 37, 20, 8, "COLA:"},
+    {"COLAField", TextField, 658, 22, 44, 20, 9, "99.99",
+     "Enter your expected long-term annual cost of living adjustment (COLA) in percent. This is "
+     "the same as the expected annual inflation rate."},
+    {"StaticText7", Label, 707, 22, 21, 20, 10, "%"},
+    {"Separator1", Separator, 20, 56, 690, 4, 11, ""},
+    {"StaticText8", Label, 20, 78, 113, 20, 12, "Initial Fundlet:  $"},
+    {"StartFundletField", TextField, 137, 78, 78, 20, 13, "999,999,999",
+     "Enter the value of your fundlet at the beginning of the first year (up to $1 billion)."},
+    {"StaticText9", Label, 240, 78, 146, 20, 14, "After-Tax Fundlet APR:"},
+    {"FundletAPRField", TextField, 391, 78, 44, 20, 15, "99.99",
+     "Enter the after-tax annual percentage rate (APR) you expect to earn on your fundlet."},
+    {"StaticText10", Label, 441, 78, 21, 20, 16, "%"},
+    {"StaticText11", Label, 497, 78, 151, 20, 17, "Initial Social Security:  $"},
+    {"SocialSecurityField", TextField, 653, 78, 49, 20, 18, "99,999",
+     "Enter the amount of after-tax social security you will receive in the first year (up to "
+     "$100,000)."},
+    {"Separator2", Separator, 20, 116, 690, 4, 19, ""},
+    {"StaticText13", Label, 18, 140, 131, 20, 20, "Terminal Fundlet:  $"},
+    {"CalculateButton", PushButton, 288, 140, 164, 20, 22, "Calculate Annual Draw",
+     "Click this button to calculate the amount of money you can draw from your fundlet in the "
+     "first year to ensure that your fundlet will last till you die, leaving the terminal amount."},
+    {"EndFundletField", TextField, 153, 140, 78, 20, 21, "999,999,999",
+     "Enter the value of your fundlet that you wish to remain at the end of your life expectancy "
+     "(up to $1 billion, but not greater than the initial fundlet)."},
+    {"AnnualDrawField", Label, 490, 137, 212, 20, 24, "Initial Year Draw:  $9,999,999,999",
+     "This is the amount of money you can draw from your fundlet in the first year to ensure that "
+     "your fundlet will last till you die, leaving the terminal amount."},
+    {"Windmill", ProgressWheel, 469, 141, 16, 16, 24, ""},
+    {"PrintButton", PushButton, 288, 180, 164, 20, 26, "Save Schedule",
+     "Click this button to save a schedule of draws to a tab=delimited file which can be imported "
+     "into a spreadsheet program."},
+    {"SaveButton", PushButton, 20, 180, 164, 20, 25, "Remember Parameters",
+     "Click this button to remember the current set of parameters."},
+    {"RestoreButton", PushButton, 538, 180, 164, 20, 27, "Recall Paremeters",
+     "Click this button to recall the previously remembered set of paremeters."},
+};
+
+constexpr int kLeftAligned = 0;
+constexpr int kRightAligned = 3;        // of a field
+constexpr int kLabelRightAligned = 2;
+
+constexpr FieldRow kFields[] = {
+    {FocusCode::StartYear, "StartYearField", "StaticText1", kLeftAligned},
+    {FocusCode::StartAge, "StartAgeField", "StaticText2", kLeftAligned},
+    {FocusCode::YearsLeft, "YearsLeftField", "StaticText4", kLeftAligned},
+    {FocusCode::COLA, "COLAField", "StaticText6", kRightAligned},
+    {FocusCode::StartFundlet, "StartFundletField", "StaticText8", kLeftAligned},
+    {FocusCode::FundletAPR, "FundletAPRField", "StaticText9", kRightAligned},
+    {FocusCode::SocialSecurity, "SocialSecurityField", "StaticText11", kLeftAligned},
+    {FocusCode::EndFundlet, "EndFundletField", "StaticText13", kLeftAligned},
+};
+
+// What single controls have beyond what their class and their row say.
+struct Exception {
+  std::string_view control;
+  Property property;
+};
+
+constexpr Exception kExceptions[] = {
+    {"AnnualDrawField", {"TextAlign", kLabelRightAligned}},
+    {"Windmill", {"Visible", false}},
+    {"CalculateButton", {"Default", true}},
+    {"PrintButton", {"Enabled", false}},
+    {"RestoreButton", {"LockRight", true}},
+};
+
+std::span<const Property> OrderOf(ControlClass control_class) {
+  switch (control_class) {
+    case Label: return order::OfLabel();
+    case TextField: return order::OfTextField();
+    case PushButton: return order::OfPushButton();
+    case Separator:
+    case ProgressWheel: break;
+  }
+  return order::OfRule();
+}
+
+void AddTextProperties(const ControlRow& row, std::vector<Property>& own) {
+  if (row.control_class == Label) own.push_back({"Text", row.text});
+  if (row.control_class == PushButton) own.push_back({"Caption", row.text});
+  if (row.control_class != TextField) return;
+  const auto* const field = std::find_if(std::begin(kFields), std::end(kFields),
+                                         [&](const FieldRow& f) { return f.field == row.name; });
+  own.push_back({"Text", row.text});
+  own.push_back({"LimitText", static_cast<std::int64_t>(Len(row.text))});
+  own.push_back({"Alignment", field->alignment});
+}
+
+}  // namespace
+
+std::span<const ControlRow> Controls() { return kControls; }
+std::span<const FieldRow> Fields() { return kFields; }
+const FieldRow& Field(FocusCode code) { return Fields()[static_cast<std::size_t>(code) - 1]; }
+
+std::string WindowSet() {
+  static constexpr Property kOwn[] = {{"Title", "Fundlet"}, {"Width", 740}, {"Height", 220}};
+  return EncodePropertySet(order::OfWindow(), kOwn);
+}
+
+std::string ControlSet(const ControlRow& row) {
+  std::vector<Property> own = {
+      {"Name", row.name},     {"Left", row.left},         {"Top", row.top},
+      {"Width", row.width},   {"Height", row.height},     {"TabIndex", row.tab_index},
+      {"HelpTag", row.help_tag},
+  };
+  AddTextProperties(row, own);
+  for (const Exception& exception : kExceptions) {
+    if (exception.control == row.name) own.push_back(exception.property);
+  }
+  return EncodePropertySet(OrderOf(row.control_class), own);
+}
+
+}  // namespace fundlet::main_layout

@@ -1,0 +1,189 @@
+#pragma once
+
+#include <string>
+
+#include "desktop/label.h"
+#include "desktop/progress_wheel.h"
+#include "desktop/push_button.h"
+#include "desktop/separator.h"
+#include "desktop/text_field.h"
+#include "desktop/window.h"
+#include "plan/entry_fields.h"
+#include "plan/entry_form.h"
+#include "plan/plan.h"
+
+namespace fundlet {
+
+// The main window: it owns the one plan of the run and ties the plan's operations to the controls,
+// the menus and the events. Its opening starts everything and its closing ends everything.
+class aFundletWindow : public Window, private EntryForm {
+ public:
+  // The one main window, made and opened at the first call.
+  static aFundletWindow& Instance();
+
+  aFundletWindow();
+
+  Plan& ThePlan() { return plan_; }
+
+  // Making the window.
+  void Layout();
+  void CreateControls();
+  void _CreateControls0();
+  void AddMenuHandlers();
+
+  // The controls, looked up by their names at each call.
+  fundlet::Label& StaticText1() const { return ControlOf<fundlet::Label>("StaticText1"); }
+  fundlet::TextField& StartYearField() const { return ControlOf<fundlet::TextField>("StartYearField"); }
+  fundlet::Label& StaticText2() const { return ControlOf<fundlet::Label>("StaticText2"); }
+  fundlet::TextField& StartAgeField() const { return ControlOf<fundlet::TextField>("StartAgeField"); }
+  fundlet::Label& StaticText3() const { return ControlOf<fundlet::Label>("StaticText3"); }
+  fundlet::Label& StaticText4() const { return ControlOf<fundlet::Label>("StaticText4"); }
+  fundlet::TextField& YearsLeftField() const { return ControlOf<fundlet::TextField>("YearsLeftField"); }
+  fundlet::Label& StaticText5() const { return ControlOf<fundlet::Label>("StaticText5"); }
+  fundlet::Label& StaticText6() const { return ControlOf<fundlet::Label>("StaticText6"); }
+  fundlet::TextField& COLAField() const { return ControlOf<fundlet::TextField>("COLAField"); }
+  fundlet::Label& StaticText7() const { return ControlOf<fundlet::Label>("StaticText7"); }
+  fundlet::Separator& Separator1() const { return ControlOf<fundlet::Separator>("Separator1"); }
+  fundlet::Label& StaticText8() const { return ControlOf<fundlet::Label>("StaticText8"); }
+  fundlet::TextField& StartFundletField() const { return ControlOf<fundlet::TextField>("StartFundletField"); }
+  fundlet::Label& StaticText9() const { return ControlOf<fundlet::Label>("StaticText9"); }
+  fundlet::TextField& FundletAPRField() const { return ControlOf<fundlet::TextField>("FundletAPRField"); }
+  fundlet::Label& StaticText10() const { return ControlOf<fundlet::Label>("StaticText10"); }
+  fundlet::Label& StaticText11() const { return ControlOf<fundlet::Label>("StaticText11"); }
+  fundlet::TextField& SocialSecurityField() const { return ControlOf<fundlet::TextField>("SocialSecurityField"); }
+  fundlet::Separator& Separator2() const { return ControlOf<fundlet::Separator>("Separator2"); }
+  fundlet::Label& StaticText13() const { return ControlOf<fundlet::Label>("StaticText13"); }
+  fundlet::PushButton& CalculateButton() const { return ControlOf<fundlet::PushButton>("CalculateButton"); }
+  fundlet::TextField& EndFundletField() const { return ControlOf<fundlet::TextField>("EndFundletField"); }
+  fundlet::Label& AnnualDrawField() const { return ControlOf<fundlet::Label>("AnnualDrawField"); }
+  fundlet::ProgressWheel& Windmill() const { return ControlOf<fundlet::ProgressWheel>("Windmill"); }
+  fundlet::PushButton& PrintButton() const { return ControlOf<fundlet::PushButton>("PrintButton"); }
+  fundlet::PushButton& SaveButton() const { return ControlOf<fundlet::PushButton>("SaveButton"); }
+  fundlet::PushButton& RestoreButton() const { return ControlOf<fundlet::PushButton>("RestoreButton"); }
+
+  // The plan's operations on this window's plan.
+  void CalculateDraw(double draw);
+  void CalculateBalance(std::int64_t year, double draw);
+  void CalculateSurvival(double fraction);
+  void SaveSchedule();
+  void SaveParameters();
+  void RestoreParameters();
+  void StartParameters();
+  bool ErrorDetected();
+  void DisplayParameters();
+  void Refocus();
+
+  // The fields: the focus has come or gone, or a key was pressed; True uses the key up.
+  void StartYearField_GotFocus(TextField&) { GotFocus(FocusCode::StartYear); }
+  void StartYearField_LostFocus(TextField&) { LostFocus(FocusCode::StartYear); }
+  bool StartYearField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+  void StartAgeField_GotFocus(TextField&) { GotFocus(FocusCode::StartAge); }
+  void StartAgeField_LostFocus(TextField&) { LostFocus(FocusCode::StartAge); }
+  bool StartAgeField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+  void YearsLeftField_GotFocus(TextField&) { GotFocus(FocusCode::YearsLeft); }
+  void YearsLeftField_LostFocus(TextField&) { LostFocus(FocusCode::YearsLeft); }
+  bool YearsLeftField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+  void COLAField_GotFocus(TextField&) { GotFocus(FocusCode::COLA); }
+  void COLAField_LostFocus(TextField&) { LostFocus(FocusCode::COLA); }
+  bool COLAField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+  void StartFundletField_GotFocus(TextField&) { GotFocus(FocusCode::StartFundlet); }
+  void StartFundletField_LostFocus(TextField&) { LostFocus(FocusCode::StartFundlet); }
+  bool StartFundletField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+  void FundletAPRField_GotFocus(TextField&) { GotFocus(FocusCode::FundletAPR); }
+  void FundletAPRField_LostFocus(TextField&) { LostFocus(FocusCode::FundletAPR); }
+  bool FundletAPRField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+  void SocialSecurityField_GotFocus(TextField&) { GotFocus(FocusCode::SocialSecurity); }
+  void SocialSecurityField_LostFocus(TextField&) { LostFocus(FocusCode::SocialSecurity); }
+  bool SocialSecurityField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+  void EndFundletField_GotFocus(TextField&) { GotFocus(FocusCode::EndFundlet); }
+  void EndFundletField_LostFocus(TextField&) { LostFocus(FocusCode::EndFundlet); }
+  bool EndFundletField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
+
+  // The buttons.
+  void CalculateButton_Action(PushButton& button);
+  void PrintButton_Action(PushButton& button);
+  void SaveButton_Action(PushButton& button);
+  void RestoreButton_Action(PushButton& button);
+
+  // The events of the window.
+  void Event_Open() override;
+  void Event_Activate() override;
+  void Event_Close() override;
+  void Event_EnableMenuItems() override;
+  bool Event_KeyDown(const std::string& key) override;
+
+  // The menu commands. What they return goes back to the menus, and means nothing there.
+  bool _Survival8_Action();
+  bool _Survival2_Action();
+  bool _Survival3_Action();
+  bool _FileRestore_Action();
+  bool _FileParams_Action();
+  bool _AppAbout_Action();
+  bool _FileSave_Action();
+  bool _HelpFundlet_Action();
+
+  // The items of the menus, looked up by their names at each call.
+  MenuItem& HelpMenu() const { return Item<MenuItem>("HelpMenu"); }
+  MenuItem& HelpFundlet() const { return Item<MenuItem>("HelpFundlet"); }
+  MenuItem& UntitledMenu0() const { return Item<MenuItem>("UntitledMenu0"); }
+  MenuItem& EditMenu() const { return Item<MenuItem>("EditMenu"); }
+  AppleMenuItem& UntitledMenu3() const { return Item<AppleMenuItem>("UntitledMenu3"); }
+  MenuItem& UntitledMenu7() const { return Item<MenuItem>("UntitledMenu7"); }
+  MenuItem& EditSurvival() const { return Item<MenuItem>("EditSurvival"); }
+  MenuItem& UntitledMenu8() const { return Item<MenuItem>("UntitledMenu8"); }
+  MenuItem& Survival8() const { return Item<MenuItem>("Survival8"); }
+  MenuItem& UntitledMenu9() const { return Item<MenuItem>("UntitledMenu9"); }
+  MenuItem& Survival3() const { return Item<MenuItem>("Survival3"); }
+  MenuItem& UntitledMenu10() const { return Item<MenuItem>("UntitledMenu10"); }
+  MenuItem& Survival2() const { return Item<MenuItem>("Survival2"); }
+  MenuItem& UntitledMenu11() const { return Item<MenuItem>("UntitledMenu11"); }
+  MenuItem& UntitledMenu1() const { return Item<MenuItem>("UntitledMenu1"); }
+  MenuItem& EditClear() const { return Item<MenuItem>("EditClear"); }
+  MenuItem& EditPaste() const { return Item<MenuItem>("EditPaste"); }
+  MenuItem& EditCopy() const { return Item<MenuItem>("EditCopy"); }
+  MenuItem& EditCut() const { return Item<MenuItem>("EditCut"); }
+  MenuItem& UntitledMenu2() const { return Item<MenuItem>("UntitledMenu2"); }
+  MenuItem& EditUndo() const { return Item<MenuItem>("EditUndo"); }
+  MenuItem& FileMenu() const { return Item<MenuItem>("FileMenu"); }
+  MenuItem& UntitledMenu12() const { return Item<MenuItem>("UntitledMenu12"); }
+  AppleMenuItem& AppAbout() const { return Item<AppleMenuItem>("AppAbout"); }
+  QuitMenuItem& FileQuit() const { return Item<QuitMenuItem>("FileQuit"); }
+  MenuItem& UntitledMenu4() const { return Item<MenuItem>("UntitledMenu4"); }
+  MenuItem& FileRestore() const { return Item<MenuItem>("FileRestore"); }
+  MenuItem& FileParams() const { return Item<MenuItem>("FileParams"); }
+  MenuItem& UntitledMenu5() const { return Item<MenuItem>("UntitledMenu5"); }
+  MenuItem& FileSave() const { return Item<MenuItem>("FileSave"); }
+  MenuItem& UntitledMenu6() const { return Item<MenuItem>("UntitledMenu6"); }
+
+ private:
+  // The window as its plan sees it.
+  std::string Text(FocusCode field) const override;
+  void SetText(FocusCode field, const std::string& text) override;
+  void SelectAll(FocusCode field) override;
+  void SetFocus(FocusCode field) override;
+  void ShowResult(const std::string& text) override;
+  void Alert(const std::string& message) override;
+
+  fundlet::TextField& Field(FocusCode field) const;
+  template <typename ItemClass>
+  ItemClass& Item(const char* name) const;
+  void PlaceOnScreen();
+  bool ShowSurvival(double fraction);
+
+  void GotFocus(FocusCode field) { EnterField(plan_, field, *this); }
+  void LostFocus(FocusCode field) { LeaveField(plan_, field, *this); }
+  static bool KeyDown(const std::string& key);
+
+  Plan plan_;
+};
+
+template <typename ItemClass>
+ItemClass& aFundletWindow::Item(const char* name) const {
+  auto* item = dynamic_cast<ItemClass*>(&Menus()._Lookup(name));
+  if (item == nullptr) {
+    throw NilObjectException("The menu item “" + std::string(name) + "” is of another class.");
+  }
+  return *item;
+}
+
+}  // namespace fundlet

@@ -1,0 +1,83 @@
+#include "plan/entry_fields.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "tests/plan/text_form.h"
+
+namespace fundlet {
+namespace {
+
+using enum FocusCode;
+
+TEST(Reading, OfAWholeNumberTruncatesAndStopsAtAComma) {
+  EXPECT_EQ(IntegerReading("60.9"), 60);
+  EXPECT_EQ(IntegerReading("-0.9"), 0);
+  EXPECT_EQ(IntegerReading("1,23"), 1);
+  for (const char* beyond : {"9223372036854775808", "-9223372036854775809", "1e999", "-1e999"}) {
+    EXPECT_EQ(IntegerReading(beyond), std::numeric_limits<std::int64_t>::min()) << beyond;
+  }
+}
+
+TEST(Reading, OfMoneyLeavesCommasOutAndOfAPercentageDoesNot) {
+  EXPECT_EQ(CurrencyReading(",1,2,34.56,7"), 1234.567);
+  EXPECT_EQ(CurrencyReading("1e999"), std::numeric_limits<double>::infinity());
+  EXPECT_EQ(PercentReading("2.126"), 2.126 / 100.0);
+  EXPECT_EQ(PercentReading("1,5"), 0.01);
+}
+
+TEST(LeaveField, ShowsWhatWasReadAndTestsNoRange) {
+  const struct {
+    FocusCode field;
+    const char* typed;
+    const char* shown;
+  } cases[] = {
+      {StartYear, "19.9", "19"},      {StartYear, "", "0"},
+      {StartAge, "30", "30"},         {YearsLeft, "-5", "-5"},
+      {COLA, "100", "100.0"},         {COLA, "", "0.0"},
+      {COLA, "3.125", "3.13"},        {FundletAPR, "3.456", "3.46"},
+      {FundletAPR, "1e999", "1e999"}, {StartFundlet, "1,234.56", "1,235"},
+      {StartFundlet, "abc", "0"},     {StartFundlet, "1000000000", "1,000,000,000"},
+      {SocialSecurity, "-5", "-5"},   {EndFundlet, "-0.4", "0"},
+  };
+  for (const auto& [field, typed, shown] : cases) {
+    Plan plan;
+    TextForm form;
+    form.At(field) = typed;
+    LeaveField(plan, field, form);
+    EXPECT_EQ(form.actions, std::vector{"text " + TextForm::Code(field) + " " + shown}) << typed;
+  }
+}
+
+TEST(LeaveField, KeepsInThePlanWhatWasTyped) {
+  Plan plan;
+  TextForm form;
+  form.At(StartFundlet) = "1,234.56";
+  form.At(COLA) = "3.456";
+  LeaveField(plan, StartFundlet, form);
+  LeaveField(plan, COLA, form);
+  EXPECT_EQ(plan.StartFundlet, 1234.56);
+  EXPECT_EQ(plan.COLA, 3.456 / 100.0);
+}
+
+TEST(Refocus, ShowsAllParametersAndSelectsTheLastField) {
+  Plan plan;
+  TextForm form;
+  ReadAllFields(plan, form);
+  plan.COLA = 0.03125;
+  const std::vector<std::string> shown = {"text 1 2010",   "text 2 70",      "text 3 4",
+                                          "text 4 3.125",  "text 5 500,000", "text 6 5.0",
+                                          "text 7 20,000", "text 8 100,000"};
+  Refocus(plan, form);
+  EXPECT_EQ(form.actions, shown) << "no field has had the focus yet";
+  EnterField(plan, YearsLeft, form);
+  form.actions.clear();
+  Refocus(plan, form);
+  EXPECT_EQ(std::vector(form.actions.begin(), form.actions.begin() + 8), shown);
+  EXPECT_EQ(std::vector(form.actions.begin() + 8, form.actions.end()),
+            (std::vector<std::string>{"focus 3", "select 3"}));
+}
+
+}  // namespace
+}  // namespace fundlet

@@ -1,0 +1,41 @@
+#include "plan/life_table.h"
+
+#include <gtest/gtest.h>
+
+namespace fundlet {
+namespace {
+
+TEST(LifeTable, FallsFromAgeToAgeAndNeverToZero) {
+  Plan plan;
+  FillSurviving(plan);
+  ASSERT_EQ(plan.Surviving.size(), 100U);
+  EXPECT_EQ(plan.Surviving.front(), 100000);
+  EXPECT_EQ(plan.Surviving.back(), 1491);
+  for (std::size_t age = 1; age < 100; ++age) {
+    EXPECT_LT(plan.Surviving[age], plan.Surviving[age - 1]) << age;
+  }
+}
+
+TEST(LifeTable, GivesTheYearsUntilFewerThanTheFractionAreAlive) {
+  const std::int64_t rows[][4] = {
+      {52, 28, 36, 40}, {60, 21, 28, 32},     {65, 17, 24, 28}, {70, 14, 19, 23},
+      {75, 10, 15, 19}, {80, 8, 12, 15},      {85, 6, 9, 12},   {90, 4, 7, 9},
+      {92, 4, 6, 7},    {93, 3, 6, 6},        {95, 3, 4, 4},    {0, 79, 87, 91},
+      {99, 0, 0, 0},    {120, -21, -21, -21}, {-1, 7, 7, 7},    {100, -1, -1, -1}};
+  for (const auto& [age, half, quarter, eighth] : rows) {
+    const auto years = [&](double fraction) {
+      Plan plan;
+      FillSurviving(plan);
+      plan.StartAge = age;
+      plan.YearsLeft = 7;
+      CalculateSurvival(plan, fraction);
+      return plan.YearsLeft;
+    };
+    EXPECT_EQ(years(0.5), half) << age;
+    EXPECT_EQ(years(0.25), quarter) << age;
+    EXPECT_EQ(years(0.125), eighth) << age;
+  }
+}
+
+}  // namespace
+}  // namespace fundlet

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "plan/draw_solver.h"
+#include "plan/plan.h"
+
+namespace fundlet {
+
+inline Plan MakePlan(std::int64_t years, double cola, double apr, double start, double end,
+                     double social) {
+  Plan plan;
+  plan.YearsLeft = years;
+  plan.COLA = cola;
+  plan.FundletAPR = apr;
+  plan.StartFundlet = start;
+  plan.EndFundlet = end;
+  plan.SocialSecurity = social;
+  return plan;
+}
+
+// One press of Calculate, without the window's part of it.
+inline void Solve(Plan& plan) {
+  SizeArrays(plan);
+  plan.OKtoPrint = true;
+  CalculateDraw(plan, InitialGuess(plan));
+}
+
+}  // namespace fundlet
