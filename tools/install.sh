@@ -27,9 +27,6 @@ bench   python3           python3
 TABLE
 }
 
-# The tests run under these besides C: a decimal comma, and an i without a dot.
-test_locales='de_DE tr_TR'
-
 have() { command -v "$1" >/dev/null 2>&1; }
 
 fail() {
@@ -86,17 +83,4 @@ and then start this again."
   { apt_get update && apt_get install -y --no-install-recommends $missing; } ||
     fail "apt-get could not install $missing
 Its own words stand above. It needs the network, and a release as new as Debian 12."
-}
-
-install_locales() {
-  local locale
-  for locale in $test_locales; do
-    if locale -a | grep -ix "$locale\.utf-\?8" >/dev/null; then continue; fi
-    can_be_root || fail "The tests need the locale $locale.UTF-8. As root, run
-  localedef -i $locale -f UTF-8 $locale.UTF-8
-and then start this again."
-    printf 'Making the locale %s.UTF-8\n' "$locale"
-    as_root localedef -i "$locale" -f UTF-8 "$locale.UTF-8" ||
-      fail "The locale $locale.UTF-8 could not be made."
-  done
 }

@@ -34,11 +34,12 @@ open_screen() {
   wait_for 20 xdotool get_desktop
 }
 
+# Ends what was started on the screen, the last first, and removes the home.
 close_screen() {
-  local process
-  for process in ${screen_processes[@]+"${screen_processes[@]}"}; do
-    kill "$process" 2>/dev/null || true
-    wait "$process" 2>/dev/null || true
+  local i
+  for ((i = ${#screen_processes[@]} - 1; i >= 0; i--)); do
+    kill "${screen_processes[i]}" 2>/dev/null || true
+    wait "${screen_processes[i]}" 2>/dev/null || true
   done
   screen_processes=()
   [ -z "$screen_folder" ] || rm -rf "$screen_folder"

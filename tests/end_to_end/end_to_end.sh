@@ -1,0 +1,121 @@
+#!/usr/bin/env bash
+# The built program on a virtual screen, used by typed keys alone: end_to_end.sh PROGRAM
+set -euo pipefail
+program=$1
+here=$(dirname "$0")
+. "$here/../../tools/screen.sh"
+
+for command in Xvfb openbox xdotool import; do
+  command -v "$command" >/dev/null && continue
+  echo "Skipped: $command is not installed, and without it there is no virtual screen to work on."
+  exit 77
+done
+
+wrong() {
+  echo "end_to_end: $*" >&2
+  exit 1
+}
+
+expect() { # WHAT EXPECTED FOUND
+  [ "$2" = "$3" ] || wrong "$1"$'\n'"  expected: $2"$'\n'"  found:    $3"
+}
+
+# Starts the program and waits for its window. Sets process, main and menu_bar, the height that the
+# menu bar takes in the window.
+start_program() {
+  "$program" &
+  process=$!
+  screen_processes+=("$process")
+  wait_for 60 other_window_of_is_active "$process" none || wrong 'the window did not open'
+  main=$(active_window)
+  local WIDTH HEIGHT
+  eval "$(xdotool getwindowgeometry --shell "$main" | grep -E '^(WIDTH|HEIGHT)=[0-9]+$')"
+  expect 'width' 740 "$WIDTH"
+  menu_bar=$((HEIGHT - 220))
+}
+
+expect_end() {
+  local status=0
+  wait "$process" || status=$?
+  expect 'exit status' 0 "$status"
+}
+
+bytes_of() { od -An -v -tx1 "$1" | tr -d ' \n'; }
+parameters_are() { [ "$(bytes_of "$parameters")" = "$1" ]; }
+
+expect_parameters() { # WHEN BYTES
+  wait_for 20 parameters_are "$2" || expect "parameters file $1" "$2" "$(bytes_of "$parameters")"
+}
+
+colour_at() {
+  import -silent -window "$main" -crop "1x1+$1+$2" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}'
+}
+result_picture() {
+  import -silent -window "$main" -crop "212x20+490+$((137 + menu_bar))" rgb:- | cksum
+}
+result_picture_is() { [ "$(result_picture)" = "$1" ]; }
+result_picture_is_not() { ! result_picture_is "$1"; }
+
+# Saves the schedule by the shortcut and the dialog into a new file of that name.
+save_schedule() {
+  press ctrl+s
+  wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'no save dialog'
+  type_text "$folder/$1"
+  press Return
+  wait_for 20 is_active "$main" || wrong 'the save dialog stayed'
+  wait_for 20 test -s "$folder/$1" || wrong "no schedule in $1"
+}
+
+trap close_screen EXIT
+open_screen 1024x640 || wrong 'the virtual screen did not open'
+folder=$screen_folder
+parameters=$XDG_CONFIG_HOME/Fundlet.Preferences
+year=$(date +%Y)
+tab=$'\t'
+
+start_program
+expect 'title' Fundlet "$(xdotool getwindowname "$main")"
+expect_parameters 'after the first start' "$(printf '%04x' "$year")"411b3f947ae147ae147b412e848000000000\
+3fa999999999999a40d388000000000040f86a0000000000
+expect 'colour of the window' '#CCFFCC' "$(colour_at 5 $((menu_bar + 210)))"
+nothing_drawn=$(result_picture)
+
+press Return
+wait_for 20 result_picture_is_not "$nothing_drawn" || wrong 'no result on the screen'
+save_schedule default.txt
+expect 'lines' 37 "$(wc -l <"$folder/default.txt")"
+expect 'first year' "$year${tab}65${tab}1,000,000${tab}73,324${tab}996,598${tab}66" \
+  "$(sed -n 11p "$folder/default.txt")"
+
+press ctrl+r
+wait_for 20 result_picture_is "$nothing_drawn" || wrong 'recalling did not clear the result'
+type_fields 2010 70 4 2.5 500,000 5 20,000 100,000
+press Return
+save_schedule typed.txt
+diff "$here/typed_plan.txt" "$folder/typed.txt" || wrong 'schedule of the typed plan'
+press ctrl+p
+remembered=3f9999999999999a411e8480000000003fa999999999999a40d388000000000040f86a0000000000
+expect_parameters 'after remembering' "07da4604$remembered"
+
+press ctrl+r
+type_fields 2011
+type_text 30
+press Return
+wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'no alert for the age of 30'
+press Return
+wait_for 20 is_active "$main" || wrong 'Return did not dismiss the alert'
+type_text 60
+press ctrl+p
+expect_parameters 'after typing over the refused age' "07db3c04$remembered"
+
+press alt+F4
+expect_end
+
+start_program
+press Return
+save_schedule again.txt
+expect 'first year after a second start' \
+  "2011${tab}60${tab}500,000${tab}131,468${tab}411,522${tab}61" \
+  "$(sed -n 11p "$folder/again.txt")"
+press ctrl+q
+expect_end
