@@ -96,7 +96,7 @@ void Window::Show() {
 
 void Window::FirstShow() {
   shown_once_ = true;
-  ApplyTabOrder();
+  Control* first = ApplyTabOrder();
   native_->ShowMenus();
   if (centred_) {
     const Screen screen(0);
@@ -106,18 +106,13 @@ void Window::FirstShow() {
   native_->show();
   native_->raise();
   native_->activateWindow();
-  if (QWidget* first = native_->Content().nextInFocusChain(); first != nullptr) {
-    const auto owner = std::find_if(controls_.begin(), controls_.end(), [first](const auto& control) {
-      return control->Native() == first;
-    });
-    if (owner != controls_.end()) (*owner)->SetFocus();
-  }
+  if (first != nullptr) first->SetFocus();
   Activated();
 }
 
 // Tab goes through the controls by rising TabIndex; those that are equal in it keep the order in
 // which they were made.
-void Window::ApplyTabOrder() {
+Control* Window::ApplyTabOrder() {
   std::vector<Control*> order;
   for (const auto& control : controls_) {
     if (control->Native()->focusPolicy() != Qt::NoFocus) order.push_back(control.get());
@@ -130,6 +125,7 @@ void Window::ApplyTabOrder() {
     QWidget::setTabOrder(before, control->Native());
     before = control->Native();
   }
+  return order.empty() ? nullptr : order.front();
 }
 
 void Window::Close() {

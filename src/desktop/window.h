@@ -105,7 +105,7 @@ class Window : public PropertyTarget {
   struct Properties;  // the setters that only a property set uses
 
   void FirstShow();
-  void ApplyTabOrder();
+  Control* ApplyTabOrder();  // gives the first control of the order, null where there is none
   bool AbleByItself(const MenuItem& item) const;
 
   std::unique_ptr<NativeWindow> native_;
