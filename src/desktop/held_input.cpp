@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 
+#include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/program_gate.h"
 #include "services/background.h"
@@ -98,6 +99,10 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
     return true;
   }
   if (MustHold()) return Hold(object, event);
+  if (ModalDialog::Blocks(object, *event)) {
+    event->accept();
+    return true;
+  }
   if (event->type() == QEvent::ShortcutOverride) {
     const auto* key = static_cast<const QKeyEvent*>(event);
     if (NativeWindow* window = NativeWindow::Of(object); window != nullptr) {

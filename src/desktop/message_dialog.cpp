@@ -4,8 +4,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
-#include "desktop/program_gate.h"
 #include "desktop/qt_text.h"
 #include "desktop/window.h"
 
@@ -26,8 +26,7 @@ const MessageDialogButton& MessageDialog::ShowModalWithin(Window* window) {
   auto* button = box.addButton(ToQt(ActionButton.Caption), QMessageBox::AcceptRole);
   box.setDefaultButton(button);
   box.setEscapeButton(button);
-  box.exec();
-  if (window != nullptr) window->DialogClosed();
+  ModalDialog::Run(box, window);
   return ActionButton;
 }
 

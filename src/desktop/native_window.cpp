@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QWindow>
 
+#include "desktop/modal_dialog.h"
 #include "desktop/program_gate.h"
 #include "desktop/push_button.h"
 #include "desktop/qt_text.h"
@@ -74,7 +75,7 @@ NativeWindow* NativeWindow::Of(QObject* object) {
 }
 
 Window* NativeWindow::Active() {
-  if (QApplication::activeModalWidget() != nullptr) return nullptr;
+  if (ModalDialog::IsOpen() || QApplication::activeModalWidget() != nullptr) return nullptr;
   auto* active = dynamic_cast<NativeWindow*>(QApplication::activeWindow());
   return active != nullptr ? &active->window_ : Window::Front();
 }
@@ -156,8 +157,9 @@ bool NativeWindow::event(QEvent* event) {
 }
 
 void NativeWindow::closeEvent(QCloseEvent* event) {
+  ModalDialog::DismissAll();
   ProgramGate::Instance().Enter("Close", [this] { window_.Close(); });
-  event->setAccepted(!window_.IsOpen());
+  event->accept();
 }
 
 void NativeWindow::keyPressEvent(QKeyEvent* event) {

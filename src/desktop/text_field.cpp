@@ -35,11 +35,27 @@ class FieldWidget : public FocusReporting<QLineEdit> {
     return contents.width() - margins.left() - margins.right() - kOwnMargins - kCaret;
   }
 
+  // Several fields can have a selection, but only the one that the user is in shows it.
+  void ShowSelection(bool shown) {
+    QPalette colours = palette();
+    const QPalette& source = shown ? parentWidget()->palette() : colours;
+    colours.setColor(QPalette::Highlight,
+                     source.color(shown ? QPalette::Highlight : QPalette::Base));
+    colours.setColor(QPalette::HighlightedText,
+                     source.color(shown ? QPalette::HighlightedText : QPalette::Text));
+    setPalette(colours);
+  }
+
  protected:
   void focusInEvent(QFocusEvent* event) override {
+    ShowSelection(true);
     // The click that brings the focus selects the whole text, and must not undo that.
     brought_by_click_ = event->reason() == Qt::MouseFocusReason;
     FocusReporting::focusInEvent(event);
+  }
+  void focusOutEvent(QFocusEvent* event) override {
+    FocusReporting::focusOutEvent(event);
+    ShowSelection(Owner().Focused() == &field_);
   }
   void mousePressEvent(QMouseEvent* event) override {
     if (!brought_by_click_) FocusReporting::mousePressEvent(event);
@@ -162,8 +178,17 @@ void TextField::SetPassword(bool password) {
   FieldOf(*this).setEchoMode(password ? QLineEdit::Password : QLineEdit::Normal);
 }
 void TextField::SetBorder(bool border) { FieldOf(*this).setFrame(border); }
-void TextField::SetBackColor(Colour colour) { SetRole(FieldOf(*this), QPalette::Base, colour); }
-void TextField::SetTextColor(Colour colour) { SetRole(FieldOf(*this), QPalette::Text, colour); }
+
+void TextField::SetBackColor(Colour colour) {
+  SetRole(FieldOf(*this), QPalette::Base, colour);
+  FieldOf(*this).ShowSelection(OwnerWindow().Focused() == this);
+}
+
+void TextField::SetTextColor(Colour colour) {
+  SetRole(FieldOf(*this), QPalette::Text, colour);
+  FieldOf(*this).ShowSelection(OwnerWindow().Focused() == this);
+}
+
 void TextField::SetCueText(std::string_view text) {
   FieldOf(*this).setPlaceholderText(ToQt(text));
 }

@@ -1,0 +1,54 @@
+#include "desktop/modal_dialog.h"
+
+#include <vector>
+
+#include <QDialog>
+#include <QEvent>
+#include <QEventLoop>
+
+#include "desktop/native_window.h"
+#include "desktop/window.h"
+
+namespace fundlet {
+
+namespace {
+
+// The open dialogs, the latest last.
+std::vector<QDialog*>& OpenDialogs() {
+  static std::vector<QDialog*> dialogs;
+  return dialogs;
+}
+
+}  // namespace
+
+void ModalDialog::Run(QDialog& dialog, Window* owner) {
+  QEventLoop loop;
+  QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+  OpenDialogs().push_back(&dialog);
+  dialog.show();
+  dialog.raise();
+  dialog.activateWindow();
+  loop.exec();
+  OpenDialogs().pop_back();
+  if (owner != nullptr) owner->DialogClosed();
+}
+
+bool ModalDialog::IsOpen() { return !OpenDialogs().empty(); }
+
+bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
+  if (!IsOpen() || event.type() == QEvent::Close || NativeWindow::Of(object) == nullptr) {
+    return false;
+  }
+  if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::KeyPress) {
+    OpenDialogs().back()->raise();
+    OpenDialogs().back()->activateWindow();
+  }
+  return true;
+}
+
+void ModalDialog::DismissAll() {
+  const std::vector<QDialog*> dialogs = OpenDialogs();
+  for (auto dialog = dialogs.rbegin(); dialog != dialogs.rend(); ++dialog) (*dialog)->reject();
+}
+
+}  // namespace fundlet

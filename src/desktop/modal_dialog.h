@@ -1,0 +1,27 @@
+#pragma once
+
+class QDialog;
+class QEvent;
+class QObject;
+
+namespace fundlet {
+
+class Window;
+
+// A dialog that the user has to answer before working on in the program's windows. It is not modal
+// in the toolkit's sense, because the toolkit then refuses a window beneath to be closed: here the
+// windows take no input while it is open, but closing one dismisses the dialog and goes ahead.
+class ModalDialog {
+ public:
+  // Shows the dialog and returns when it has been answered. The owner, which may be null, is
+  // activated once the running handler has returned.
+  static void Run(QDialog& dialog, Window* owner);
+
+  static bool IsOpen();
+  // Whether input to the object has to wait for a dialog; then the dialog is brought to the front.
+  static bool Blocks(QObject* object, const QEvent& event);
+  // Answers all open dialogs as their close boxes do.
+  static void DismissAll();
+};
+
+}  // namespace fundlet
