@@ -25,6 +25,7 @@ void ModalDialog::Run(QDialog& dialog, Window* owner) {
   QEventLoop loop;
   QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
   OpenDialogs().push_back(&dialog);
+  dialog.setWindowModality(Qt::NonModal);
   dialog.show();
   dialog.raise();
   dialog.activateWindow();

@@ -33,32 +33,29 @@ TEST(LeaveField, ShowsWhatWasReadAndTestsNoRange) {
     const char* typed;
     const char* shown;
   } cases[] = {
-      {StartYear, "19.9", "19"},      {StartYear, "", "0"},
-      {StartAge, "30", "30"},         {YearsLeft, "-5", "-5"},
-      {COLA, "100", "100.0"},         {COLA, "", "0.0"},
-      {COLA, "3.125", "3.13"},        {FundletAPR, "3.456", "3.46"},
-      {FundletAPR, "1e999", "1e999"}, {StartFundlet, "1,234.56", "1,235"},
-      {StartFundlet, "abc", "0"},     {StartFundlet, "1000000000", "1,000,000,000"},
-      {SocialSecurity, "-5", "-5"},   {EndFundlet, "-0.4", "0"},
+      {StartYear, "19.9", "19"},
+      {StartYear, "", "0"},
+      {StartAge, "30", "30"},
+      {YearsLeft, "-5", "-5"},
+      {COLA, "100", "100.0"},
+      {COLA, "", "0.0"},
+      {COLA, "3.125", "3.13"},
+      {FundletAPR, "1e999", "1e999"},
+      {StartFundlet, "abc", "0"},
+      {StartFundlet, "1000000000", "1,000,000,000"},
+      {StartFundlet, "1,234.56", "1,235"},
+      {SocialSecurity, "-5", "-5"},
+      {EndFundlet, "-0.4", "0"},
   };
+  Plan plan;
   for (const auto& [field, typed, shown] : cases) {
-    Plan plan;
     TextForm form;
     form.At(field) = typed;
     LeaveField(plan, field, form);
     EXPECT_EQ(form.actions, std::vector{"text " + TextForm::Code(field) + " " + shown}) << typed;
   }
-}
-
-TEST(LeaveField, KeepsInThePlanWhatWasTyped) {
-  Plan plan;
-  TextForm form;
-  form.At(StartFundlet) = "1,234.56";
-  form.At(COLA) = "3.456";
-  LeaveField(plan, StartFundlet, form);
-  LeaveField(plan, COLA, form);
+  EXPECT_EQ(plan.COLA, 3.125 / 100.0) << "the text is rounded, the plan is not";
   EXPECT_EQ(plan.StartFundlet, 1234.56);
-  EXPECT_EQ(plan.COLA, 3.456 / 100.0);
 }
 
 TEST(Refocus, ShowsAllParametersAndSelectsTheLastField) {

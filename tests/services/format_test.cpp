@@ -5,7 +5,9 @@
 #include <cstdint>
 #include <cstdio>
 #include <limits>
+#include <locale>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -52,6 +54,19 @@ TEST(Format, GivesAnInfinityATextThatReadsAsTheSame) {
   EXPECT_EQ(Val(Format(kInfinity, kDollars)), kInfinity);
   EXPECT_EQ(Val(Format(-kInfinity, "#0.0#")), -kInfinity);
   EXPECT_EQ(Format(std::numeric_limits<double>::quiet_NaN(), kDollars), "NaN");
+}
+
+TEST(Format, AndValDependOnNoLocale) {
+  const std::locale before;
+  try {
+    std::locale::global(std::locale("de_DE.UTF-8"));
+  } catch (const std::runtime_error&) {
+    GTEST_SKIP() << "there is no de_DE.UTF-8 here";
+  }
+  EXPECT_EQ(Shown("###,##0.0#", {1234.5}), "1,234.5");
+  EXPECT_EQ(Val("1.5"), 1.5);
+  EXPECT_EQ(Val("1,5"), 1);
+  std::locale::global(before);
 }
 
 // The same text by other means: from 2 to the power 52 a double is whole, and the C library prints

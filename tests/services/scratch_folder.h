@@ -41,17 +41,16 @@ class ScratchFolder {
 // Takes root's power over every file away for as long as it lives; others keep what they have.
 class OrdinaryUser {
  public:
-  OrdinaryUser() {
-    constexpr uid_t kNobody = 65534;
-    if (uid_ == 0 && seteuid(kNobody) != 0) std::abort();
-  }
+  OrdinaryUser() { Become(uid_ == 0 ? kNobody : uid_); }
   OrdinaryUser(const OrdinaryUser&) = delete;
   OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  ~OrdinaryUser() {
-    if (seteuid(uid_) != 0) std::abort();
-  }
+  ~OrdinaryUser() { Become(uid_); }
 
  private:
+  static constexpr uid_t kNobody = 65534;
+  static void Become(uid_t user) {
+    if (seteuid(user) != 0) std::abort();
+  }
   uid_t uid_ = geteuid();
 };
 
