@@ -1,0 +1,212 @@
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <gtest/gtest.h>
+
+#include "files/draw_schedule.h"
+#include "files/remembered_parameters.h"
+#include "plan/entry_fields.h"
+#include "plan/parameters_file.h"
+#include "tests/files/sample_schedule.h"
+#include "tests/plan/text_form.h"
+#include "tests/services/scratch_folder.h"
+
+namespace {
+
+enum class Fault { Error, Kill };
+Fault fault = Fault::Error;
+int calls_to_fault = 0;  // 0 when no call is to fail
+
+bool CallFails() {
+  if (calls_to_fault == 0 || --calls_to_fault > 0) return false;
+  if (fault == Fault::Kill) _exit(0);
+  errno = EIO;
+  return true;
+}
+
+int Descriptor(void* file) { return static_cast<int>(reinterpret_cast<std::intptr_t>(file)); }
+
+ssize_t Read(void* file, char* bytes, std::size_t count) {
+  return CallFails() ? -1 : read(Descriptor(file), bytes, count);
+}
+
+// A write that fails has written a half.
+ssize_t Write(void* file, const char* bytes, std::size_t count) {
+  const ssize_t half = write(Descriptor(file), bytes, count / 2);
+  if (half < 0 || CallFails()) return 0;
+  const ssize_t rest = write(Descriptor(file), bytes + half, count - half);
+  return rest < 0 ? 0 : half + rest;
+}
+
+int Seek(void* file, off64_t* position, int whence) {
+  if (CallFails()) return -1;
+  *position = lseek(Descriptor(file), *position, whence);
+  return *position < 0 ? -1 : 0;
+}
+
+int Close(void* file) {
+  const int result = close(Descriptor(file));
+  return CallFails() ? -1 : result;
+}
+
+}  // namespace
+
+extern "C" {
+
+std::FILE* __real_fopen(const char* path, const char* mode);
+
+// While a call is to fail, the C library's own stream over a file whose calls can fail.
+std::FILE* __wrap_fopen(const char* path, const char* mode) {
+  if (calls_to_fault == 0) return __real_fopen(path, mode);
+  if (CallFails()) return nullptr;
+  const int flags = mode[0] == 'w' ? O_CREAT | O_TRUNC : 0;
+  const int file = open(path, O_RDWR | flags, 0666);
+  const auto cookie = reinterpret_cast<void*>(static_cast<std::intptr_t>(file));
+  return file < 0 ? nullptr : fopencookie(cookie, mode, {Read, Write, Seek, Close});
+}
+
+int stat(const char* path, struct stat* status) {
+  return CallFails() ? -1 : fstatat(AT_FDCWD, path, status, 0);
+}
+}
+
+namespace fundlet {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+Texts Shown(const Plan& plan) {
+  TextForm form;
+  DisplayParameters(plan, form);
+  return {form.texts.begin(), form.texts.end()};
+}
+
+void Start(Plan& plan) {
+  StartParameters(plan, [](const std::string& message) { throw RuntimeException(message); });
+}
+void Remember(Plan& plan) { SaveParameters(plan, TextForm()); }
+void Recall(Plan& plan) {
+  TextForm form;
+  RestoreParameters(plan, form);
+}
+void Export(Plan&) { SaveSchedule(SolvedSample(), ParametersFile()); }
+
+struct Operation {
+  void (*run)(Plan&);
+  std::string before;  // what the file holds; where that is nothing there is no file
+};
+
+const std::string kOld = std::string(44, '\x01') + "tail";
+const Operation kOperations[] = {{Start, kOld},  {Start, ""},  {Remember, kOld}, {Remember, ""},
+                                 {Recall, kOld}, {Recall, ""}, {Export, kOld},   {Export, ""}};
+
+struct Outcome {
+  bool failed = false;
+  bool fault_met = false;
+  std::string file;
+  Texts plan;
+};
+
+std::ptrdiff_t OpenFiles() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+}
+
+Outcome RunWithFault(const Operation& operation, int at_call) {
+  const ScratchFolder folder;
+  if (!operation.before.empty()) folder.Write(kParametersFileName, operation.before);
+  const std::ptrdiff_t open_files = OpenFiles();
+  Plan plan;
+  Outcome outcome;
+  calls_to_fault = at_call;
+  try {
+    operation.run(plan);
+  } catch (const RuntimeException& failure) {
+    outcome.failed = true;
+    EXPECT_NE(std::string(failure.what()).find(kParametersFileName), std::string::npos);
+  }
+  outcome.fault_met = calls_to_fault == 0;
+  calls_to_fault = 0;
+  EXPECT_EQ(OpenFiles(), open_files);
+  outcome.file = folder.Read(kParametersFileName);
+  outcome.plan = Shown(plan);
+  return outcome;
+}
+
+// True when the new bytes have come over the old ones, or over none, up to some place.
+bool IsOverwritten(const std::string& file, const std::string& before, const std::string& after) {
+  const auto [place, ignored] = std::mismatch(file.begin(), file.end(), after.begin(), after.end());
+  const auto length = static_cast<std::size_t>(place - file.begin());
+  const std::string rest = file.substr(length);
+  return rest.empty() || rest == before.substr(std::min(length, before.size()));
+}
+
+TEST(FileFaults, AreReportedAndLeaveNothingButOldAndNewValues) {
+  for (const Operation& operation : kOperations) {
+    const Outcome whole = RunWithFault(operation, 0);
+    ASSERT_FALSE(whole.failed);
+    int call = 1;
+    for (Outcome faulty = RunWithFault(operation, call); faulty.fault_met;
+         faulty = RunWithFault(operation, ++call)) {
+      EXPECT_TRUE(faulty.failed || (faulty.file == whole.file && faulty.plan == whole.plan));
+      EXPECT_TRUE(IsOverwritten(faulty.file, operation.before, whole.file)) << call;
+      for (std::size_t at = 0; at < 8; ++at) {
+        EXPECT_TRUE(faulty.plan[at] == whole.plan[at] || faulty.plan[at] == Shown(Plan())[at]);
+      }
+    }
+    EXPECT_GT(call, 10) << "too few calls have failed";
+  }
+}
+
+TEST(FileFaults, OfAKilledProgramLeaveAFileThatTheNextStartReadsOrReports) {
+  fault = Fault::Kill;
+  for (const Operation& operation : kOperations) {
+    for (int call = 1;; ++call) {
+      const ScratchFolder folder;
+      if (!operation.before.empty()) folder.Write(kParametersFileName, operation.before);
+      const pid_t child = fork();
+      if (child == 0) {
+        calls_to_fault = call;
+        Plan plan;
+        operation.run(plan);
+        _exit(1);
+      }
+      int status = 0;
+      ASSERT_EQ(waitpid(child, &status, 0), child);
+      const bool cut_short =
+          folder.Item(kParametersFileName).Exists() && folder.Read(kParametersFileName).size() < 44;
+      Plan plan;
+      bool reported = false;
+      StartParameters(plan, [&](const std::string&) { reported = true; });
+      EXPECT_EQ(reported, cut_short);
+      if (status != 0) break;
+    }
+  }
+  fault = Fault::Error;
+}
+
+TEST(FileFaults, OfADiskWithoutRoomNameTheFileAndLeaveWhatWasWritten) {
+  const ScratchFolder folder;
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit small{20, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+  std::string message;
+  try {
+    SaveSchedule(SolvedSample(), folder.Item("text"));
+  } catch (const IOException& failure) {
+    message = failure.what();
+  }
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(message, "File “" + folder.Item("text").Path().string() +
+                         "” could not be written: the file would be too large.");
+  EXPECT_EQ(folder.Read("text"), kSampleSchedule.substr(0, 20));
+}
+
+}  // namespace
+}  // namespace fundlet

@@ -1,0 +1,73 @@
+#include "files/remembered_parameters.h"
+
+#include <bit>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "plan/parameters_file.h"
+#include "tests/plan/text_form.h"
+#include "tests/services/scratch_folder.h"
+
+namespace fundlet {
+namespace {
+
+const std::string kNoNumber("\x7F\xF4\0\0\0\0\0\x01", 8);
+const std::string kMinusZero("\x80\0\0\0\0\0\0\0", 8);
+const std::string kThousand("\x40\x8F\x40\0\0\0\0\0", 8);
+
+TEST(SaveParameters, WritesTheTextsOverTheRecordAndKeepsWhatLiesBehind) {
+  const ScratchFolder folder;
+  folder.Write(kParametersFileName, std::string(44, 'x') + "tail");
+  Plan plan;
+  plan.AnnualDraw = 7;
+  TextForm form;
+  form.texts = {"-1.5", "40", "200", "-0", "1,000", "-0", "1000", "1e3"};
+  SaveParameters(plan, form);
+  EXPECT_EQ(folder.Read(kParametersFileName), "\xFF\xFF\x28\xC8" + kMinusZero + kThousand +
+                                                  kMinusZero + kThousand + kThousand + "tail");
+  EXPECT_TRUE(form.actions.empty());
+  EXPECT_EQ(plan.YearsLeft, 200);
+  EXPECT_EQ(plan.AnnualDraw, 7);
+}
+
+TEST(RestoreParameters, TakesEveryBitAndShowsThePlanBeforeItMovesTheFocus) {
+  const ScratchFolder folder;
+  folder.Write(kParametersFileName, "\x80\x01\x28\xFD" + kNoNumber + kThousand + kMinusZero +
+                                        kMinusZero + kThousand + "tail");
+  Plan plan;
+  plan.OKtoPrint = true;
+  TextForm form;
+  RestoreParameters(plan, form);
+  EXPECT_EQ(std::bit_cast<std::uint64_t>(plan.COLA), 0x7FF4000000000001);
+  EXPECT_TRUE(std::signbit(plan.FundletAPR));
+  EXPECT_TRUE(plan.OKtoPrint);
+  EXPECT_EQ(form.actions,
+            (std::vector<std::string>{"text 1 -32767", "text 2 40", "text 3 -3", "text 4 NaN",
+                                      "text 5 1,000", "text 6 0.0", "text 7 0", "text 8 1,000",
+                                      "select 1", "result Initial Year Draw:  $0", "focus 1"}));
+}
+
+TEST(RestoreParameters, MakesAFileOfTheDefaultsWhereItHasGone) {
+  const ScratchFolder folder;
+  Plan plan;
+  TextForm form;
+  RestoreParameters(plan, form);
+  EXPECT_EQ(plan.StartAge, 65);
+  EXPECT_EQ(folder.Read(kParametersFileName).size(), 44U);
+  EXPECT_EQ(form.actions.back(), "focus 1");
+}
+
+TEST(RememberedParameters, ThatCannotBeOpenedLeaveThePlanAlone) {
+  const ScratchFolder folder;
+  std::filesystem::create_directory(folder.Path() / kParametersFileName);
+  Plan plan;
+  TextForm form;
+  EXPECT_THROW(SaveParameters(plan, form), IOException);
+  EXPECT_THROW(RestoreParameters(plan, form), IOException);
+  EXPECT_EQ(plan.StartAge, 0);
+  EXPECT_TRUE(form.actions.empty());
+}
+
+}  // namespace
+}  // namespace fundlet
