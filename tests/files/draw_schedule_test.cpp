@@ -1,16 +1,43 @@
 #include "files/draw_schedule.h"
 
 #include <algorithm>
+#include <csignal>
+#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
-#include "tests/files/sample_schedule.h"
+#include "services/exceptions.h"
+#include "tests/plan/sample_plans.h"
 #include "tests/services/scratch_folder.h"
 
 namespace fundlet {
 namespace {
 
-TEST(DrawSchedule, HoldsTheParametersAndOneRowForEachYear) {
+Plan SolvedSample() {
+  Plan plan = MakePlan(4, 0.025, 0.05, 500'000, 100'000, 20'000);
+  plan.StartYear = 2010;
+  plan.StartAge = 70;
+  Solve(plan);
+  return plan;
+}
+
+const std::string kSampleSchedule =
+    "Start with 1 Jan 2010\t\t\t\t\t\n"
+    "Age on 1 Jan: 70 Years\t\t\t\t\t\n"
+    "Life Expectancy: 4 Years\t\t\t\t\t\n"
+    "COLA: 2.5%\t\t\t\t\t\n"
+    "Initial Fundlet: $500,000\t\t\t\t\t\n"
+    "After-Tax Fundlet APR: 5.0%\t\t\t\t\t\n"
+    "IInitial Social Security: $20,000\t\t\t\t\t\n"
+    "Terminal Fundlet: $100,000\t\t\t\t\t\n"
+    "\t\t\t\t\t\n"
+    "Year\tAge on 1 Jan\tBegining Balance\tDraw\tEnding Balance\tAge on 31 Dec\n"
+    "2010\t70\t500,000\t131,468\t411,522\t71\n"
+    "2011\t71\t411,522\t134,755\t315,666\t72\n"
+    "2012\t72\t315,666\t138,123\t211,984\t73\n"
+    "2013\t73\t211,984\t141,577\t100,000\t74\n";
+
+TEST(DrawSchedule, ReplacesAFileByTheParametersAndOneRowForEachYear) {
   const ScratchFolder folder;
   const std::string name = "Entnahme ½ 年金 📈.txt";
   folder.Write(name, std::string(5000, 'x'));
@@ -42,6 +69,25 @@ TEST(DrawSchedule, ShowsTheParametersOfNowAboveTheBalancesOfTheLastSolve) {
                            "\n2002\t73\t211,984\t141,577\t0\t74\n"}) {
     EXPECT_NE(text.find(part), std::string::npos) << part << " in " << text;
   }
+}
+
+TEST(DrawSchedule, ThatFindsNoMoreRoomEndsThereAndSaysWhy) {
+  const ScratchFolder folder;
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit small{200, before.rlim_max};
+  std::string message;
+  setrlimit(RLIMIT_FSIZE, &small);
+  try {
+    SaveSchedule(SolvedSample(), folder.Item("text"));
+  } catch (const IOException& failure) {
+    message = failure.what();
+  }
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(message, "File “" + folder.Item("text").Path().string() +
+                         "” could not be written: the file would be too large.");
+  EXPECT_EQ(folder.Read("text"), kSampleSchedule.substr(0, 200));
 }
 
 }  // namespace

@@ -48,17 +48,7 @@ TEST(RestoreParameters, TakesEveryBitAndShowsThePlanBeforeItMovesTheFocus) {
                                       "select 1", "result Initial Year Draw:  $0", "focus 1"}));
 }
 
-TEST(RestoreParameters, MakesAFileOfTheDefaultsWhereItHasGone) {
-  const ScratchFolder folder;
-  Plan plan;
-  TextForm form;
-  RestoreParameters(plan, form);
-  EXPECT_EQ(plan.StartAge, 65);
-  EXPECT_EQ(folder.Read(kParametersFileName).size(), 44U);
-  EXPECT_EQ(form.actions.back(), "focus 1");
-}
-
-TEST(RememberedParameters, ThatCannotBeOpenedLeaveThePlanAlone) {
+TEST(RememberedParameters, ThatCannotBeOpenedLeaveThePlanAndTheTextsAlone) {
   const ScratchFolder folder;
   std::filesystem::create_directory(folder.Path() / kParametersFileName);
   Plan plan;

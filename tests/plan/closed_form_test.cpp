@@ -73,24 +73,14 @@ class Dice {
   std::mt19937_64 random_{4};
 };
 
-TEST(ClosedForm, GivesTheFinalBalanceOverAGrid) {
-  const double rates[] = {0.0, 1e-9, 0.02, 0.05, 0.9999};
-  for (const int years : {4, 5, 27, 40}) {
-    for (const double cola : rates) {
-      for (const double apr : rates) {
-        for (const double draw : {0.0, 40'000.0, -1e9, 1e12}) {
-          ExpectOnTheLine(MakePlan(years, cola, apr, 1e6, 1e5, 2e4), draw);
-        }
-      }
-    }
-  }
-}
-
 TEST(ClosedForm, GivesTheFinalBalanceOfAnyAcceptedPlan) {
+  const double edges[] = {0.0, 1e-9, 0.05, 0.9999};
   Dice dice;
   for (int count = 0; count < 100'000; ++count) {
-    const Plan plan = dice.Throw(count % 2 == 0 ? 0.1 : 0.9999);
-    ASSERT_NO_FATAL_FAILURE(ExpectOnTheLine(plan, dice.Upto(2 * plan.StartFundlet)));
+    Plan plan = dice.Throw(count % 2 == 0 ? 0.1 : 0.9999);
+    if (count % 3 == 0) plan.COLA = edges[count / 3 % 4];
+    if (count % 5 == 0) plan.FundletAPR = edges[count / 5 % 4];
+    ASSERT_NO_FATAL_FAILURE(ExpectOnTheLine(plan, dice.Upto(2e9) - 5e8));
   }
 }
 

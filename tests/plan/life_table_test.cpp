@@ -22,18 +22,18 @@ TEST(LifeTable, GivesTheYearsUntilFewerThanTheFractionAreAlive) {
       {75, 10, 15, 19}, {80, 8, 12, 15},      {85, 6, 9, 12},   {90, 4, 7, 9},
       {92, 4, 6, 7},    {93, 3, 6, 6},        {95, 3, 4, 4},    {0, 79, 87, 91},
       {99, 0, 0, 0},    {120, -21, -21, -21}, {-1, 7, 7, 7},    {100, -1, -1, -1}};
-  for (const auto& [age, half, quarter, eighth] : rows) {
+  for (const auto& row : rows) {
     const auto years = [&](double fraction) {
       Plan plan;
       FillSurviving(plan);
-      plan.StartAge = age;
+      plan.StartAge = row[0];
       plan.YearsLeft = 7;
       CalculateSurvival(plan, fraction);
       return plan.YearsLeft;
     };
-    EXPECT_EQ(years(0.5), half) << age;
-    EXPECT_EQ(years(0.25), quarter) << age;
-    EXPECT_EQ(years(0.125), eighth) << age;
+    EXPECT_EQ(years(0.5), row[1]) << row[0];
+    EXPECT_EQ(years(0.25), row[2]) << row[0];
+    EXPECT_EQ(years(0.125), row[3]) << row[0];
   }
 }
 

@@ -71,15 +71,16 @@ TEST(StartParameters, TakesWhatTheFileHoldsUpToItsEndAndLeavesTheFile) {
 
 TEST(StartParameters, StartsWithZerosWhereTheFileCannotBeOpened) {
   const ScratchFolder folder;
+  const fs::path file = folder.Path() / kParametersFileName;
   folder.Write(kParametersFileName, kRecord);
-  fs::permissions(folder.Path() / kParametersFileName, fs::perms{0444});
   Plan plan;
-  {
-    const OrdinaryUser user;
-    EXPECT_EQ(AlertsOfStart(plan), kBusy) << "a file that cannot be written";
-  }
-  fs::remove(folder.Path() / kParametersFileName);
-  fs::create_directory(folder.Path() / kParametersFileName);
+  fs::permissions(file, fs::perms{0444});
+  EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << "a file that cannot be written";
+  fs::permissions(folder.Path(), fs::perms::none);
+  EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << "one that cannot even be looked at";
+  fs::permissions(folder.Path(), fs::perms::all);
+  fs::remove(file);
+  fs::create_directory(file);
   EXPECT_EQ(AlertsOfStart(plan), kBusy) << "a folder";
   EXPECT_EQ(Shown(plan), kZeros);
 }

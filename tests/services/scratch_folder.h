@@ -27,6 +27,8 @@ class ScratchFolder {
   const std::filesystem::path& Path() const { return path_; }
   FolderItem Item(const std::string& name) const { return FolderItem(path_ / name); }
   void Write(const std::string& name, const std::string& bytes) const {
+    // Some file systems wait for the disk when a file is emptied and written again.
+    std::filesystem::remove(path_ / name);
     std::ofstream(path_ / name, std::ios::binary) << bytes;
   }
   std::string Read(const std::string& name) const {
