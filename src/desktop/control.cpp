@@ -41,9 +41,8 @@ void Control::SetHelpTag(std::string_view text) {
   const QString plain = ToQt(text).replace('\r', '\n');
   native_->setAccessibleDescription(plain);
   // Only a rich text is wrapped where it is too long for one line.
-  native_->setToolTip(plain.isEmpty()
-                          ? QString()
-                          : "<qt>" + plain.toHtmlEscaped().replace('\n', "<br>") + "</qt>");
+  native_->setToolTip(
+      plain.isEmpty() ? QString() : "<qt>" + plain.toHtmlEscaped().replace('\n', "<br>") + "</qt>");
 }
 
 void Control::Refresh(bool at_once) {

@@ -29,8 +29,8 @@ class FocusReporting : public Widget {
 
   void focusOutEvent(QFocusEvent* event) override {
     Widget::focusOutEvent(event);
-    const bool for_a_menu = event->reason() == Qt::PopupFocusReason ||
-                            event->reason() == Qt::MenuBarFocusReason;
+    const bool for_a_menu =
+        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason;
     if (!for_a_menu) window_.FocusWent(control_);
   }
 

@@ -41,8 +41,10 @@ bool IsUserInput(const QEvent& event) {
     case QEvent::TabletRelease:
     case QEvent::InputMethod:
     case QEvent::ContextMenu:
-    case QEvent::Close: return true;
-    default: return false;
+    case QEvent::Close:
+      return true;
+    default:
+      return false;
   }
 }
 
@@ -128,7 +130,8 @@ bool HeldInput::Hold(QObject* object, QEvent* event) {
 void HeldInput::ScheduleReplay() {
   if (held_.empty() || replay_scheduled_) return;
   replay_scheduled_ = true;
-  QMetaObject::invokeMethod(this, [this] { ReplayNext(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { ReplayNext(); }, Qt::QueuedConnection);
 }
 
 void HeldInput::ReplayNext() {
@@ -137,7 +140,7 @@ void HeldInput::ReplayNext() {
   if (held_.empty() || ProgramGate::Instance().Busy()) return;
   const Held next = std::move(held_.front());
   held_.pop_front();
-  if (next.receiver) {
+  if (next.receiver != nullptr) {
     replaying_ = true;
     Deliver(*next.receiver, *next.event);
     replaying_ = false;

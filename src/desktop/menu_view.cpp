@@ -32,7 +32,7 @@ QAction::MenuRole RoleOf(const MenuItem& item) {
 
 // The holder of the shared actions; it goes with the toolkit.
 QObject& SharedActions() {
-  QObject* holder = qApp->findChild<QObject*>(kActionsName, Qt::FindDirectChildrenOnly);
+  auto* holder = qApp->findChild<QObject*>(kActionsName, Qt::FindDirectChildrenOnly);
   if (holder == nullptr) {
     holder = new QObject(qApp);
     holder->setObjectName(kActionsName);

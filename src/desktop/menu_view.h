@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QKeyCombination>
 #include <vector>
+
+#include <QKeyCombination>
 
 class QAction;
 class QMenu;

@@ -25,8 +25,8 @@ bool libraries_present = true;
 void SetLibrariesPresent(bool present) { libraries_present = present; }
 
 void RuntimeRaiseFunctionNotFoundException(const char* function, const char* library) {
-  throw RuntimeException("The function “" + std::string(function) + "” was not found in the library “" +
-                         library + "”.");
+  throw RuntimeException("The function “" + std::string(function) +
+                         "” was not found in the library “" + library + "”.");
 }
 
 #ifdef __APPLE__

@@ -1,5 +1,6 @@
 #include "desktop/modal_dialog.h"
 
+#include <algorithm>
 #include <vector>
 
 #include <QDialog>
@@ -48,8 +49,9 @@ bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
 }
 
 void ModalDialog::DismissAll() {
-  const std::vector<QDialog*> dialogs = OpenDialogs();
-  for (auto dialog = dialogs.rbegin(); dialog != dialogs.rend(); ++dialog) (*dialog)->reject();
+  std::vector<QDialog*> dialogs = OpenDialogs();
+  std::reverse(dialogs.begin(), dialogs.end());
+  for (QDialog* dialog : dialogs) dialog->reject();
 }
 
 }  // namespace fundlet

@@ -120,7 +120,9 @@ void NativeWindow::SetBackColor(Colour colour) {
   centralWidget()->setPalette(PaletteFor(QColor(colour.red, colour.green, colour.blue)));
 }
 
-void NativeWindow::SetHasBackColor(bool painted) { centralWidget()->setAutoFillBackground(painted); }
+void NativeWindow::SetHasBackColor(bool painted) {
+  centralWidget()->setAutoFillBackground(painted);
+}
 
 void NativeWindow::ShowMenus() {
   if (!menu_bar_visible_) return;
@@ -166,8 +168,7 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
   bool used = HandleKey(*event);
   const std::string key = KeyText(*event);
   if (!used && !key.empty()) {
-    ProgramGate::Instance().EnterWithin("Key",
-                                        [&] { used = window_.Event_KeyDown(key); });
+    ProgramGate::Instance().EnterWithin("Key", [&] { used = window_.Event_KeyDown(key); });
   }
   event->setAccepted(used);
 }

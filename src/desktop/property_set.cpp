@@ -31,8 +31,9 @@ struct Encoder {
 };
 
 const Property* FindProperty(std::span<const Property> properties, std::string_view name) {
-  const auto found = std::find_if(properties.begin(), properties.end(),
-                                  [name](const Property& property) { return property.name == name; });
+  const auto found =
+      std::find_if(properties.begin(), properties.end(),
+                   [name](const Property& property) { return property.name == name; });
   return found != properties.end() ? &*found : nullptr;
 }
 

@@ -26,8 +26,7 @@ struct Colour {
   bool operator==(const Colour&) const = default;
 };
 
-using PropertyValue =
-    std::variant<std::int64_t, bool, std::string_view, float, double, Colour>;
+using PropertyValue = std::variant<std::int64_t, bool, std::string_view, float, double, Colour>;
 
 struct Property {
   std::string_view name;

@@ -6,8 +6,6 @@
 #include <string_view>
 
 #include <QString>
-#include <string>
-#include <string_view>
 
 namespace fundlet {
 

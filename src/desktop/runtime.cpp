@@ -12,23 +12,25 @@ namespace fundlet {
 
 namespace {
 
-Application* application = nullptr;
+Application* registered_application = nullptr;
 std::map<std::string, std::unique_ptr<Window>> implicit_instances;
 
 }  // namespace
 
-void Application::_SetSupportsHiDPI(bool supports) {
-  if (!supports) return;
+void Application::_SetSupportsHiDPI(bool supported) {
+  if (!supported) return;
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
       Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
 Application& App() {
-  if (application == nullptr) throw NilObjectException("The program has not started yet.");
-  return *application;
+  if (registered_application == nullptr) {
+    throw NilObjectException("The program has not started yet.");
+  }
+  return *registered_application;
 }
 
-void RegisterApplication(Application& registered) { application = &registered; }
+void RegisterApplication(Application& application) { registered_application = &application; }
 
 void Quit(int status) {
   ProgramGate::Instance().Shut();
@@ -59,7 +61,7 @@ Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move
 Runtime::~Runtime() {
   ProgramGate::Instance().Shut();
   implicit_instances.clear();
-  application = nullptr;
+  registered_application = nullptr;
 }
 
 void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {

@@ -29,9 +29,9 @@ QString StartFolder() {
 std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
                                             const std::string& proposed_name) {
   Window* window = Window::Front();
-  const QString path = QFileDialog::getSaveFileName(
-      window != nullptr ? &window->Native() : nullptr, "Save",
-      QDir(StartFolder()).filePath(ToQt(proposed_name)), ToQt(filter));
+  const QString path =
+      QFileDialog::getSaveFileName(window != nullptr ? &window->Native() : nullptr, "Save",
+                                   QDir(StartFolder()).filePath(ToQt(proposed_name)), ToQt(filter));
   if (window != nullptr) window->DialogClosed();
   if (path.isEmpty()) return std::nullopt;
   LastFolder() = QFileInfo(path).absolutePath();

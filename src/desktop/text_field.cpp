@@ -21,8 +21,7 @@ constexpr int kNoLimit = 32767;
 
 class FieldWidget : public FocusReporting<QLineEdit> {
  public:
-  FieldWidget(Window& window, TextField& field)
-      : FocusReporting(window, field), field_(field) {}
+  FieldWidget(Window& window, TextField& field) : FocusReporting(window, field), field_(field) {}
 
   // The width that a text can have and be seen whole, the caret behind it included.
   int TextRoom() const {
@@ -111,10 +110,9 @@ void SetRole(QWidget& widget, QPalette::ColorRole role, Colour colour) {
 
 TextField::TextField(Window& window) : TextControl(window, new FieldWidget(window, *this)) {
   FieldOf(*this).setFocusPolicy(Qt::StrongFocus);
-  QObject::connect(&FieldOf(*this), &QLineEdit::textEdited, &FieldOf(*this),
-                   [this](const QString& text) {
-                     UpdateTypingLimit(static_cast<int>(text.size()));
-                   });
+  QObject::connect(
+      &FieldOf(*this), &QLineEdit::textEdited, &FieldOf(*this),
+      [this](const QString& text) { UpdateTypingLimit(static_cast<int>(text.size())); });
 }
 
 std::string TextField::Text() const { return FromQt(FieldOf(*this).text()); }
@@ -189,9 +187,7 @@ void TextField::SetTextColor(Colour colour) {
   FieldOf(*this).ShowSelection(OwnerWindow().Focused() == this);
 }
 
-void TextField::SetCueText(std::string_view text) {
-  FieldOf(*this).setPlaceholderText(ToQt(text));
-}
+void TextField::SetCueText(std::string_view text) { FieldOf(*this).setPlaceholderText(ToQt(text)); }
 
 int TextField::TextRoom() const { return FieldOf(*this).TextRoom(); }
 

@@ -42,12 +42,10 @@ const Cells kHeadings = {"Year", "Age on 1 Jan",   "Begining Balance",
 Cells Row(const Plan& plan, std::int64_t year) {
   const auto index = static_cast<std::size_t>(year);
   const auto dollars = [](double amount) { return Format(amount, mask::kDollars); };
-  return {Str(plan.StartYear + year - 1),
-          Str(plan.StartAge + year - 1),
-          dollars(plan.Balance.at(index - 1)),
-          dollars(static_cast<double>(plan.Drawing.at(index - 1))),
-          dollars(plan.Balance.at(index)),
-          Str(plan.StartAge + year)};
+  return {
+      Str(plan.StartYear + year - 1),      Str(plan.StartAge + year - 1),
+      dollars(plan.Balance.at(index - 1)), dollars(static_cast<double>(plan.Drawing.at(index - 1))),
+      dollars(plan.Balance.at(index)),     Str(plan.StartAge + year)};
 }
 
 std::int64_t LastSolvedYear(const Plan& plan) {

@@ -13,9 +13,10 @@
 namespace fundlet {
 
 // All eight, in the order of their codes. It is also the order on the screen and in the file.
-inline constexpr std::array kFocusCodes = {
-    FocusCode::StartYear,    FocusCode::StartAge,   FocusCode::YearsLeft,      FocusCode::COLA,
-    FocusCode::StartFundlet, FocusCode::FundletAPR, FocusCode::SocialSecurity, FocusCode::EndFundlet};
+inline constexpr std::array kFocusCodes = {FocusCode::StartYear,      FocusCode::StartAge,
+                                           FocusCode::YearsLeft,      FocusCode::COLA,
+                                           FocusCode::StartFundlet,   FocusCode::FundletAPR,
+                                           FocusCode::SocialSecurity, FocusCode::EndFundlet};
 
 // The masks under which the values are shown; whole numbers need none.
 namespace mask {

@@ -23,9 +23,7 @@ constexpr std::array<std::int64_t, 100> kLifeTable = {
 
 }  // namespace
 
-void FillSurviving(Plan& plan) {
-  plan.Surviving.assign(kLifeTable.begin(), kLifeTable.end());
-}
+void FillSurviving(Plan& plan) { plan.Surviving.assign(kLifeTable.begin(), kLifeTable.end()); }
 
 void CalculateSurvival(Plan& plan, double fraction) {
   if (plan.StartAge < 0) return;

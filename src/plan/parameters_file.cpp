@@ -30,7 +30,9 @@ void WriteParameters(BinaryStream& stream, const Plan& plan) {
 
 void ReadParameters(BinaryStream& stream, Plan& plan) {
   plan.StartYear = stream.ReadInt16();
+  // The sign is to go with the wider type. NOLINTNEXTLINE(bugprone-signed-char-misuse)
   plan.StartAge = stream.ReadInt8();
+  // NOLINTNEXTLINE(bugprone-signed-char-misuse)
   plan.YearsLeft = stream.ReadInt8();
   plan.COLA = stream.ReadDouble();
   plan.StartFundlet = stream.ReadDouble();

@@ -32,9 +32,9 @@ struct Plan {
   // Persons of 100,000 born who are still alive, by age in years. Never empty.
   std::vector<std::int64_t> Surviving = {0};
 
-  bool WindowOpened = false;     // opened, and not yet activated for the first time
-  std::int64_t TheFocus = 0;     // code of the field that last received the focus, 0 for none
-  std::int64_t ErrorFocus = 0;   // code of the field refused by the latest validation, 0 for none
+  bool WindowOpened = false;    // opened, and not yet activated for the first time
+  std::int64_t TheFocus = 0;    // code of the field that last received the focus, 0 for none
+  std::int64_t ErrorFocus = 0;  // code of the field refused by the latest validation, 0 for none
 };
 
 }  // namespace fundlet

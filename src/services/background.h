@@ -6,7 +6,7 @@ namespace fundlet {
 
 namespace background {
 
-inline int countdown = 1;      // yields until the task is called again
+inline int countdown = 1;  // yields until the task is called again
 inline bool cancelled = false;
 
 void CallTask();

@@ -43,7 +43,9 @@ std::uint64_t BinaryStream::ReadBits(std::size_t width) {
   return bits;
 }
 
-void BinaryStream::WriteInt16(std::int16_t value) { WriteBits(static_cast<std::uint16_t>(value), 2); }
+void BinaryStream::WriteInt16(std::int16_t value) {
+  WriteBits(static_cast<std::uint16_t>(value), 2);
+}
 void BinaryStream::WriteInt8(std::int8_t value) { WriteBits(static_cast<std::uint8_t>(value), 1); }
 void BinaryStream::WriteDouble(double value) { WriteBits(std::bit_cast<std::uint64_t>(value), 8); }
 

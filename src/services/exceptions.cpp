@@ -43,11 +43,16 @@ constexpr Reason kReasons[] = {
 
 std::string_view ActionText(FileAction action) {
   switch (action) {
-    case FileAction::Open: return "opened";
-    case FileAction::Create: return "created";
-    case FileAction::Read: return "read";
-    case FileAction::Write: return "written";
-    case FileAction::Close: return "closed";
+    case FileAction::Open:
+      return "opened";
+    case FileAction::Create:
+      return "created";
+    case FileAction::Read:
+      return "read";
+    case FileAction::Write:
+      return "written";
+    case FileAction::Close:
+      return "closed";
   }
   return "used";
 }

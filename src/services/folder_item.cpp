@@ -61,7 +61,7 @@ fs::path PreferencesPath() {
   const fs::path home = FolderFromEnvironment("HOME");
   return home.empty() ? home : home / "Library" / "Preferences";
 #else
-  const fs::path config = FolderFromEnvironment("XDG_CONFIG_HOME");
+  fs::path config = FolderFromEnvironment("XDG_CONFIG_HOME");
   if (!config.empty()) return config;
   const fs::path home = FolderFromEnvironment("HOME");
   return home.empty() ? home : home / ".config";

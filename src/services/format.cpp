@@ -11,7 +11,7 @@ namespace fundlet {
 namespace {
 
 struct Mask {
-  std::size_t least_whole;    // digit places before the point that are always shown
+  std::size_t least_whole;  // digit places before the point that are always shown
   std::size_t least_decimals;
   std::size_t most_decimals;
   bool grouped;
@@ -47,14 +47,13 @@ Decimal ExactDigits(double number) {
 }
 
 void AddOne(std::string& digits) {
-  for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-    if (*digit != '9') {
-      ++*digit;
-      return;
-    }
-    *digit = '0';
+  std::size_t raised = digits.find_last_not_of('9');
+  if (raised == std::string::npos) {
+    digits.insert(digits.begin(), '0');
+    raised = 0;
   }
-  digits.insert(digits.begin(), '1');
+  ++digits[raised];
+  std::fill(digits.begin() + static_cast<std::ptrdiff_t>(raised) + 1, digits.end(), '0');
 }
 
 Decimal Rounded(const Decimal& exact, std::size_t places) {
@@ -85,7 +84,9 @@ void FitDecimals(std::string& decimals, std::size_t least) {
   decimals.resize(std::max(used, least));
 }
 
-bool AllZero(const std::string& digits) { return digits.find_first_not_of('0') == digits.npos; }
+bool AllZero(const std::string& digits) {
+  return digits.find_first_not_of('0') == std::string::npos;
+}
 
 }  // namespace
 

@@ -14,8 +14,8 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 // The parts of a decimal number at the front of a text.
 struct Scanned {
   bool negative = false;
-  std::string_view number;       // without sign, from the first digit or point
-  std::int64_t magnitude = 0;    // the power of ten just above the first digit that is not 0
+  std::string_view number;     // without sign, from the first digit or point
+  std::int64_t magnitude = 0;  // the power of ten just above the first digit that is not 0
   bool nonzero = false;
   bool present = false;
 };
@@ -114,7 +114,9 @@ std::size_t Len(std::string_view text) {
 std::string Chr(std::uint32_t code) {
   constexpr std::uint32_t kReplacement = 0xFFFD;
   if (code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF)) code = kReplacement;
-  const auto tail = [code](int shift) { return static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
+  const auto tail = [code](int shift) {
+    return static_cast<char>(0x80 | ((code >> shift) & 0x3F));
+  };
   if (code < 0x80) return {static_cast<char>(code)};
   if (code < 0x800) return {static_cast<char>(0xC0 | (code >> 6)), tail(0)};
   if (code < 0x10000) return {static_cast<char>(0xE0 | (code >> 12)), tail(6), tail(0)};

@@ -13,7 +13,7 @@ bool ShowAboutPanel() {
   void* found = LoadFunctionPointerFromLibrary(kFunction, kLibrary);
   if (found == nullptr) RuntimeRaiseFunctionNotFoundException(kFunction, kLibrary);
   const auto class_from_string = reinterpret_cast<ClassLookUp>(found);
-  const Id application = objc_msgSend(class_from_string("NSApplication"), shared_application);
+  Id application = objc_msgSend(class_from_string("NSApplication"), shared_application);
   const Selector order_front = sel_registerName("orderFrontStandardAboutPanel:");
   objc_msgSend(application, order_front);
   return true;

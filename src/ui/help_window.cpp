@@ -50,7 +50,7 @@ void aHelpWindow::CreateControls() { _CreateControls0(); }
 void aHelpWindow::_CreateControls0() {
   const std::string text = HelpText();
   const Property text_field[] = {
-      {"Name", "TextField"},   {"Left", 20},  {"Top", 20},   {"Width", kTextWidth},
+      {"Name", "TextField"},   {"Left", 20},    {"Top", 20},    {"Width", kTextWidth},
       {"Height", kTextHeight}, {"TabIndex", 0}, {"Text", text},
   };
   _AddControl("TextField", std::make_unique<fundlet::TextArea>(*this));

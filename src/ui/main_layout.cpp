@@ -66,7 +66,7 @@ constexpr ControlRow kControls[] = {
 };
 
 constexpr int kLeftAligned = 0;
-constexpr int kRightAligned = 3;        // of a field
+constexpr int kRightAligned = 3;  // of a field
 constexpr int kLabelRightAligned = 2;
 
 constexpr FieldRow kFields[] = {
@@ -96,11 +96,15 @@ constexpr Exception kExceptions[] = {
 
 std::span<const Property> OrderOf(ControlClass control_class) {
   switch (control_class) {
-    case Label: return order::OfLabel();
-    case TextField: return order::OfTextField();
-    case PushButton: return order::OfPushButton();
+    case Label:
+      return order::OfLabel();
+    case TextField:
+      return order::OfTextField();
+    case PushButton:
+      return order::OfPushButton();
     case Separator:
-    case ProgressWheel: break;
+    case ProgressWheel:
+      break;
   }
   return order::OfRule();
 }
@@ -129,8 +133,8 @@ std::string WindowSet() {
 
 std::string ControlSet(const ControlRow& row) {
   std::vector<Property> own = {
-      {"Name", row.name},     {"Left", row.left},         {"Top", row.top},
-      {"Width", row.width},   {"Height", row.height},     {"TabIndex", row.tab_index},
+      {"Name", row.name},        {"Left", row.left},     {"Top", row.top},
+      {"Width", row.width},      {"Height", row.height}, {"TabIndex", row.tab_index},
       {"HelpTag", row.help_tag},
   };
   AddTextProperties(row, own);

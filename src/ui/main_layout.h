@@ -22,7 +22,7 @@ struct ControlRow {
   int height;
   int tab_index;
   std::string_view text;  // or the caption
-  std::string_view help_tag = "";
+  std::string_view help_tag = {};
 };
 
 // One entry field beyond its row: the parameter behind it, the label that names it, and the side

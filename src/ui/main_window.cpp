@@ -1,6 +1,5 @@
 #include "ui/main_window.h"
 
-#include "ui/about_panel.h"
 #include "desktop/runtime.h"
 #include "desktop/save_dialog.h"
 #include "desktop/screen.h"
@@ -12,6 +11,7 @@
 #include "plan/validation.h"
 #include "services/numbers.h"
 #include "services/text.h"
+#include "ui/about_panel.h"
 #include "ui/global_module.h"
 #include "ui/help_window.h"
 #include "ui/main_layout.h"
@@ -26,13 +26,12 @@ constexpr std::uint32_t kHelpCode = 5;
 }  // namespace
 
 aFundletWindow& aFundletWindow::Instance() {
-  return static_cast<aFundletWindow&>(
-      ImplicitInstance("aFundletWindow.aFundletWindow", [] {
-        auto window = std::make_unique<aFundletWindow>();
-        window->Open();
-        window->Show();
-        return window;
-      }));
+  return static_cast<aFundletWindow&>(ImplicitInstance("aFundletWindow.aFundletWindow", [] {
+    auto window = std::make_unique<aFundletWindow>();
+    window->Open();
+    window->Show();
+    return window;
+  }));
 }
 
 aFundletWindow::aFundletWindow() {

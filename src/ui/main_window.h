@@ -33,33 +33,51 @@ class aFundletWindow : public Window, private EntryForm {
 
   // The controls, looked up by their names at each call.
   fundlet::Label& StaticText1() const { return ControlOf<fundlet::Label>("StaticText1"); }
-  fundlet::TextField& StartYearField() const { return ControlOf<fundlet::TextField>("StartYearField"); }
+  fundlet::TextField& StartYearField() const {
+    return ControlOf<fundlet::TextField>("StartYearField");
+  }
   fundlet::Label& StaticText2() const { return ControlOf<fundlet::Label>("StaticText2"); }
-  fundlet::TextField& StartAgeField() const { return ControlOf<fundlet::TextField>("StartAgeField"); }
+  fundlet::TextField& StartAgeField() const {
+    return ControlOf<fundlet::TextField>("StartAgeField");
+  }
   fundlet::Label& StaticText3() const { return ControlOf<fundlet::Label>("StaticText3"); }
   fundlet::Label& StaticText4() const { return ControlOf<fundlet::Label>("StaticText4"); }
-  fundlet::TextField& YearsLeftField() const { return ControlOf<fundlet::TextField>("YearsLeftField"); }
+  fundlet::TextField& YearsLeftField() const {
+    return ControlOf<fundlet::TextField>("YearsLeftField");
+  }
   fundlet::Label& StaticText5() const { return ControlOf<fundlet::Label>("StaticText5"); }
   fundlet::Label& StaticText6() const { return ControlOf<fundlet::Label>("StaticText6"); }
   fundlet::TextField& COLAField() const { return ControlOf<fundlet::TextField>("COLAField"); }
   fundlet::Label& StaticText7() const { return ControlOf<fundlet::Label>("StaticText7"); }
   fundlet::Separator& Separator1() const { return ControlOf<fundlet::Separator>("Separator1"); }
   fundlet::Label& StaticText8() const { return ControlOf<fundlet::Label>("StaticText8"); }
-  fundlet::TextField& StartFundletField() const { return ControlOf<fundlet::TextField>("StartFundletField"); }
+  fundlet::TextField& StartFundletField() const {
+    return ControlOf<fundlet::TextField>("StartFundletField");
+  }
   fundlet::Label& StaticText9() const { return ControlOf<fundlet::Label>("StaticText9"); }
-  fundlet::TextField& FundletAPRField() const { return ControlOf<fundlet::TextField>("FundletAPRField"); }
+  fundlet::TextField& FundletAPRField() const {
+    return ControlOf<fundlet::TextField>("FundletAPRField");
+  }
   fundlet::Label& StaticText10() const { return ControlOf<fundlet::Label>("StaticText10"); }
   fundlet::Label& StaticText11() const { return ControlOf<fundlet::Label>("StaticText11"); }
-  fundlet::TextField& SocialSecurityField() const { return ControlOf<fundlet::TextField>("SocialSecurityField"); }
+  fundlet::TextField& SocialSecurityField() const {
+    return ControlOf<fundlet::TextField>("SocialSecurityField");
+  }
   fundlet::Separator& Separator2() const { return ControlOf<fundlet::Separator>("Separator2"); }
   fundlet::Label& StaticText13() const { return ControlOf<fundlet::Label>("StaticText13"); }
-  fundlet::PushButton& CalculateButton() const { return ControlOf<fundlet::PushButton>("CalculateButton"); }
-  fundlet::TextField& EndFundletField() const { return ControlOf<fundlet::TextField>("EndFundletField"); }
+  fundlet::PushButton& CalculateButton() const {
+    return ControlOf<fundlet::PushButton>("CalculateButton");
+  }
+  fundlet::TextField& EndFundletField() const {
+    return ControlOf<fundlet::TextField>("EndFundletField");
+  }
   fundlet::Label& AnnualDrawField() const { return ControlOf<fundlet::Label>("AnnualDrawField"); }
   fundlet::ProgressWheel& Windmill() const { return ControlOf<fundlet::ProgressWheel>("Windmill"); }
   fundlet::PushButton& PrintButton() const { return ControlOf<fundlet::PushButton>("PrintButton"); }
   fundlet::PushButton& SaveButton() const { return ControlOf<fundlet::PushButton>("SaveButton"); }
-  fundlet::PushButton& RestoreButton() const { return ControlOf<fundlet::PushButton>("RestoreButton"); }
+  fundlet::PushButton& RestoreButton() const {
+    return ControlOf<fundlet::PushButton>("RestoreButton");
+  }
 
   // The plan's operations on this window's plan.
   void CalculateDraw(double draw);

@@ -14,11 +14,16 @@ using main_layout::ControlClass;
 
 std::unique_ptr<Control> NewControl(ControlClass control_class, Window& window) {
   switch (control_class) {
-    case ControlClass::Label: return std::make_unique<Label>(window);
-    case ControlClass::TextField: return std::make_unique<TextField>(window);
-    case ControlClass::PushButton: return std::make_unique<PushButton>(window);
-    case ControlClass::Separator: return std::make_unique<Separator>(window);
-    case ControlClass::ProgressWheel: break;
+    case ControlClass::Label:
+      return std::make_unique<Label>(window);
+    case ControlClass::TextField:
+      return std::make_unique<TextField>(window);
+    case ControlClass::PushButton:
+      return std::make_unique<PushButton>(window);
+    case ControlClass::Separator:
+      return std::make_unique<Separator>(window);
+    case ControlClass::ProgressWheel:
+      break;
   }
   return std::make_unique<ProgressWheel>(window);
 }
@@ -32,22 +37,22 @@ struct FieldHandlers {
 };
 
 constexpr FieldHandlers kFieldHandlers[] = {
-    {"StartYearField", &aFundletWindow::StartYearField_GotFocus, &aFundletWindow::StartYearField_LostFocus,
-     &aFundletWindow::StartYearField_KeyDown},
-    {"StartAgeField", &aFundletWindow::StartAgeField_GotFocus, &aFundletWindow::StartAgeField_LostFocus,
-     &aFundletWindow::StartAgeField_KeyDown},
-    {"YearsLeftField", &aFundletWindow::YearsLeftField_GotFocus, &aFundletWindow::YearsLeftField_LostFocus,
-     &aFundletWindow::YearsLeftField_KeyDown},
+    {"StartYearField", &aFundletWindow::StartYearField_GotFocus,
+     &aFundletWindow::StartYearField_LostFocus, &aFundletWindow::StartYearField_KeyDown},
+    {"StartAgeField", &aFundletWindow::StartAgeField_GotFocus,
+     &aFundletWindow::StartAgeField_LostFocus, &aFundletWindow::StartAgeField_KeyDown},
+    {"YearsLeftField", &aFundletWindow::YearsLeftField_GotFocus,
+     &aFundletWindow::YearsLeftField_LostFocus, &aFundletWindow::YearsLeftField_KeyDown},
     {"COLAField", &aFundletWindow::COLAField_GotFocus, &aFundletWindow::COLAField_LostFocus,
      &aFundletWindow::COLAField_KeyDown},
-    {"StartFundletField", &aFundletWindow::StartFundletField_GotFocus, &aFundletWindow::StartFundletField_LostFocus,
-     &aFundletWindow::StartFundletField_KeyDown},
-    {"FundletAPRField", &aFundletWindow::FundletAPRField_GotFocus, &aFundletWindow::FundletAPRField_LostFocus,
-     &aFundletWindow::FundletAPRField_KeyDown},
-    {"SocialSecurityField", &aFundletWindow::SocialSecurityField_GotFocus, &aFundletWindow::SocialSecurityField_LostFocus,
-     &aFundletWindow::SocialSecurityField_KeyDown},
-    {"EndFundletField", &aFundletWindow::EndFundletField_GotFocus, &aFundletWindow::EndFundletField_LostFocus,
-     &aFundletWindow::EndFundletField_KeyDown},
+    {"StartFundletField", &aFundletWindow::StartFundletField_GotFocus,
+     &aFundletWindow::StartFundletField_LostFocus, &aFundletWindow::StartFundletField_KeyDown},
+    {"FundletAPRField", &aFundletWindow::FundletAPRField_GotFocus,
+     &aFundletWindow::FundletAPRField_LostFocus, &aFundletWindow::FundletAPRField_KeyDown},
+    {"SocialSecurityField", &aFundletWindow::SocialSecurityField_GotFocus,
+     &aFundletWindow::SocialSecurityField_LostFocus, &aFundletWindow::SocialSecurityField_KeyDown},
+    {"EndFundletField", &aFundletWindow::EndFundletField_GotFocus,
+     &aFundletWindow::EndFundletField_LostFocus, &aFundletWindow::EndFundletField_KeyDown},
 };
 
 struct ButtonHandler {
