@@ -5,7 +5,7 @@ opening.py RUNS NAME PROGRAM NAME PROGRAM...   under X, with nothing else on the
 
 The programs are started in turn, so that whatever else the machine does falls on all of them. The
 first is what the others are measured against. A window counts as mapped when the server says so,
-and as painted when a pixel near its bottom has taken its last colour.
+and as on the screen when it is painted too: a pixel near its bottom has taken its last colour.
 """
 
 import ctypes
@@ -120,7 +120,7 @@ def main():
         for name, program in zip(names, programs):
             found[name].append(open_once(screen, program))
     print(f"Opening of the window, {runs} runs in turn; the ratios are to the first.")
-    print(f"{'':24}{'mapped ms':>12}{'painted ms':>20}{'resident MiB':>20}")
+    print(f"{'':24}{'mapped ms':>12}{'on screen ms':>20}{'resident MiB':>20}")
     for title, choose in (("median", statistics.median), ("least", min)):
         chosen = {name: [choose(column) for column in zip(*rows)] for name, rows in found.items()}
         for name, row in chosen.items():
