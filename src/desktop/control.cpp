@@ -54,6 +54,10 @@ void Control::Refresh(bool at_once) {
 }
 
 void Control::SetFocus() {
+  if (window_.Focused() == this) {
+    window_.FocusCameAgain(*this);
+    return;
+  }
   native_->setFocus(Qt::OtherFocusReason);
   // While the window is not the active one, the toolkit only notes where the focus is to be.
   window_.FocusCame(*this);

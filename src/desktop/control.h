@@ -39,7 +39,8 @@ class Control : public PropertyTarget {
 
   // Repaints the control: with True before this returns, else with the next events.
   void Refresh(bool at_once);
-  // Gives the control the keyboard focus. The handlers of both controls have run when it returns.
+  // Gives the control the keyboard focus. The handlers of both controls have run when it returns;
+  // that of this one also where it has the focus already.
   void SetFocus();
 
   int TabIndex() const { return tab_index_; }

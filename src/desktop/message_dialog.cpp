@@ -11,18 +11,12 @@
 
 namespace fundlet {
 
-namespace {
-
-constexpr int kCautionIcon = 1;
-
-}  // namespace
-
 const MessageDialogButton& MessageDialog::ShowModalWithin(Window* window) {
   QMessageBox box(window != nullptr ? &window->Native() : nullptr);
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(Message));
   box.setWindowTitle(QApplication::applicationName());
-  box.setIcon(Icon == kCautionIcon ? QMessageBox::Warning : QMessageBox::NoIcon);
+  box.setIcon(Icon == kCaution ? QMessageBox::Warning : QMessageBox::NoIcon);
   auto* button = box.addButton(ToQt(ActionButton.Caption), QMessageBox::AcceptRole);
   box.setDefaultButton(button);
   box.setEscapeButton(button);

@@ -15,7 +15,8 @@ struct MessageDialogButton {
 class MessageDialog {
  public:
   std::string Message;
-  int Icon = 0;  // 0 none, 1 caution
+  static constexpr int kCaution = 1;
+  int Icon = 0;  // kCaution, or 0 for none
   MessageDialogButton ActionButton;
 
   // Shows the message over the given window, or by itself where there is none, and returns when it

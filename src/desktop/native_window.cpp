@@ -11,14 +11,13 @@
 #include "desktop/program_gate.h"
 #include "desktop/push_button.h"
 #include "desktop/qt_text.h"
+#include "desktop/text_field.h"
 #include "desktop/window.h"
 #include "services/text.h"
 
 namespace fundlet {
 
 namespace {
-
-constexpr int kHelpCode = 5;
 
 #ifdef Q_OS_MACOS
 constexpr auto kControlModifier = Qt::MetaModifier;
@@ -50,7 +49,8 @@ QPalette PaletteFor(const QColor& background) {
 
 std::string KeyText(const QKeyEvent& event) {
   const bool control_e = event.key() == Qt::Key_E && event.modifiers() == kControlModifier;
-  if (event.key() == Qt::Key_Help || event.key() == Qt::Key_F1 || control_e) return Chr(kHelpCode);
+  if (event.key() == Qt::Key_Help || event.key() == Qt::Key_F1 || control_e)
+    return Chr(kHelpKeyCode);
   return FromQt(event.text());
 }
 
@@ -160,7 +160,7 @@ bool NativeWindow::event(QEvent* event) {
 
 void NativeWindow::closeEvent(QCloseEvent* event) {
   ModalDialog::DismissAll();
-  ProgramGate::Instance().Enter("Close", [this] { window_.Close(); });
+  ProgramGate::Instance().Enter("", [this] { window_.Close(); });
   event->accept();
 }
 
@@ -168,14 +168,14 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
   bool used = HandleKey(*event);
   const std::string key = KeyText(*event);
   if (!used && !key.empty()) {
-    ProgramGate::Instance().EnterWithin("Key", [&] { used = window_.Event_KeyDown(key); });
+    ProgramGate::Instance().EnterWithin("", [&] { used = window_.Event_KeyDown(key); });
   }
   event->setAccepted(used);
 }
 
 bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
   if (object == centralWidget() && event->type() == QEvent::Resize && resizeable_ && isVisible()) {
-    ProgramGate::Instance().EnterWithin("Resize", [this] { window_.Event_Resized(); });
+    ProgramGate::Instance().EnterWithin("", [this] { window_.Event_Resized(); });
   }
   return QMainWindow::eventFilter(object, event);
 }

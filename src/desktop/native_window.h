@@ -65,8 +65,8 @@ class NativeWindow : public QMainWindow {
   bool menu_bar_visible_ = true;
 };
 
-// The one-character text of a key, empty for a key that has none. The Help key, F1 and control-E
-// all give the character of code 5.
+// The one-character text of a key, empty for a key that has none. The keys for help all give the
+// character of kHelpKeyCode.
 std::string KeyText(const QKeyEvent& event);
 
 }  // namespace fundlet

@@ -28,8 +28,9 @@ std::string Reason(const std::exception_ptr& failure) {
 void ShowLastResort(const std::string& what, const std::exception_ptr& failure) noexcept {
   try {
     MessageDialog dialog;
-    dialog.Message = "“" + what + "” could not be carried out. " + Reason(failure);
-    dialog.Icon = 1;
+    if (!what.empty()) dialog.Message = "“" + what + "” could not be carried out. ";
+    dialog.Message += Reason(failure);
+    dialog.Icon = MessageDialog::kCaution;
     Beep();
     dialog.ShowModalWithin(Window::Front());
   } catch (...) {

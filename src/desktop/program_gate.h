@@ -14,7 +14,8 @@ class ProgramGate {
  public:
   static ProgramGate& Instance();
 
-  // Runs the handler now, or after the one that is running. `what` names it for the user.
+  // Runs the handler now, or after the one that is running. `what` names the command for the
+  // user, empty for what is no command of theirs.
   void Enter(const std::string& what, std::function<void()> handler);
   // Runs the handler now, inside the one that is running if there is one: for the events that the
   // running handler causes and waits for.

@@ -56,16 +56,19 @@ void TextArea::SetText(std::string_view text) {
 }
 
 void TextArea::SetSelStart(std::int64_t start) {
-  sel_start_ = start;
-  SetSelLength(0);
+  QPlainTextEdit& area = AreaOf(*this);
+  QTextCursor cursor = area.textCursor();
+  cursor.setPosition(UnitsOf(area.toPlainText(), start));
+  area.setTextCursor(cursor);
 }
 
 void TextArea::SetSelLength(std::int64_t length) {
   QPlainTextEdit& area = AreaOf(*this);
   const QString text = area.toPlainText();
   QTextCursor cursor = area.textCursor();
-  cursor.setPosition(UnitsOf(text, sel_start_));
-  cursor.setPosition(UnitsOf(text, sel_start_ + length), QTextCursor::KeepAnchor);
+  const std::int64_t start = SelStart();
+  cursor.setPosition(UnitsOf(text, start));
+  cursor.setPosition(UnitsOf(text, start + length), QTextCursor::KeepAnchor);
   area.setTextCursor(cursor);
 }
 

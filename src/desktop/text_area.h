@@ -31,9 +31,6 @@ class TextArea : public TextControl {
 
  protected:
   const PropertySetter* FindSetter(std::string_view name) const override;
-
- private:
-  std::int64_t sel_start_ = 0;
 };
 
 }  // namespace fundlet

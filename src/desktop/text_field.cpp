@@ -36,12 +36,15 @@ class FieldWidget : public FocusReporting<QLineEdit> {
 
   // Several fields can have a selection, but only the one that the user is in shows it.
   void ShowSelection(bool shown) {
+    const QPalette window_colours = parentWidget()->palette();
     QPalette colours = palette();
-    const QPalette& source = shown ? parentWidget()->palette() : colours;
-    colours.setColor(QPalette::Highlight,
-                     source.color(shown ? QPalette::Highlight : QPalette::Base));
-    colours.setColor(QPalette::HighlightedText,
-                     source.color(shown ? QPalette::HighlightedText : QPalette::Text));
+    if (shown) {
+      colours.setColor(QPalette::Highlight, window_colours.color(QPalette::Highlight));
+      colours.setColor(QPalette::HighlightedText, window_colours.color(QPalette::HighlightedText));
+    } else {
+      colours.setColor(QPalette::Highlight, colours.color(QPalette::Base));
+      colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
+    }
     setPalette(colours);
   }
 
@@ -81,7 +84,7 @@ class FieldWidget : public FocusReporting<QLineEdit> {
     bool used = false;
     const std::string key = KeyText(event);
     if (key.empty() || !field_.KeyDown) return used;
-    ProgramGate::Instance().EnterWithin("Key", [&] { used = field_.KeyDown(field_, key); });
+    ProgramGate::Instance().EnterWithin("", [&] { used = field_.KeyDown(field_, key); });
     return used;
   }
 
@@ -122,7 +125,7 @@ void TextField::SetText(std::string_view text) {
   UpdateTypingLimit(static_cast<int>(shown.size()));
   FieldOf(*this).setText(shown);
   const bool within_limit = limit_ == 0 || shown.size() <= limit_;
-  if (within_limit && text.size() >= widest_text_.size()) widest_text_ = text;
+  if (within_limit && text.size() >= longest_text_.size()) longest_text_ = text;
   FitText();
 }
 
@@ -138,7 +141,6 @@ void TextField::UpdateTypingLimit(int present_length) {
 }
 
 void TextField::SetSelStart(std::int64_t start) {
-  sel_start_ = start;
   QLineEdit& field = FieldOf(*this);
   field.deselect();
   field.setCursorPosition(UnitsOf(field.text(), start));
@@ -146,8 +148,9 @@ void TextField::SetSelStart(std::int64_t start) {
 
 void TextField::SetSelLength(std::int64_t length) {
   QLineEdit& field = FieldOf(*this);
-  const int begin = UnitsOf(field.text(), sel_start_);
-  const int end = UnitsOf(field.text(), sel_start_ + length);
+  const std::int64_t start = SelStart();
+  const int begin = UnitsOf(field.text(), start);
+  const int end = UnitsOf(field.text(), start + length);
   if (end > begin) field.setSelection(begin, end - begin);
 }
 

@@ -6,6 +6,9 @@
 
 namespace fundlet {
 
+// The code of the character that the keys for help give: the Help key, F1 and control-E.
+inline constexpr std::uint32_t kHelpKeyCode = 5;
+
 // A one-line text that the user can edit. Offsets and lengths count characters.
 class TextField : public TextControl {
  public:
@@ -40,15 +43,14 @@ class TextField : public TextControl {
 
  protected:
   const PropertySetter* FindSetter(std::string_view name) const override;
-  std::string WidestText() const override { return widest_text_; }
+  std::string WidestText() const override { return longest_text_; }
   int TextRoom() const override;
 
  private:
   void UpdateTypingLimit(int present_length);
 
   int limit_ = 0;
-  std::int64_t sel_start_ = 0;
-  std::string widest_text_;  // of those within the limit that the program has written
+  std::string longest_text_;  // of those within the limit that the program has written
 };
 
 }  // namespace fundlet

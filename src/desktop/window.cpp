@@ -80,7 +80,7 @@ Control& Window::_ControlByName(std::string_view name) const {
 
 void Window::Open() {
   open_ = true;
-  ProgramGate::Instance().EnterWithin("Open", [this] { Event_Open(); });
+  ProgramGate::Instance().EnterWithin("", [this] { Event_Open(); });
 }
 
 void Window::Show() {
@@ -89,7 +89,11 @@ void Window::Show() {
     FirstShow();
     return;
   }
-  native_->showNormal();
+  if (native_->isMinimized()) {
+    native_->showNormal();
+  } else {
+    native_->show();
+  }
   native_->raise();
   native_->activateWindow();
 }
@@ -133,7 +137,7 @@ void Window::Close() {
   open_ = false;
   native_->hide();
   std::erase(Stack(), this);
-  ProgramGate::Instance().EnterWithin("Close", [this] { Event_Close(); });
+  ProgramGate::Instance().EnterWithin("", [this] { Event_Close(); });
 }
 
 void Window::ClearFocus() {
@@ -147,7 +151,7 @@ void Window::Activated() {
   Stack().push_back(this);
   if (activation_due_) return;
   activation_due_ = true;
-  ProgramGate::Instance().Enter("Activate", [this] {
+  ProgramGate::Instance().Enter("", [this] {
     activation_due_ = false;
     if (open_) Event_Activate();
   });
@@ -165,7 +169,7 @@ void Window::DialogClosed() {
 void Window::FocusCame(Control& control) {
   if (focused_ == &control) return;
   Control* before = std::exchange(focused_, &control);
-  ProgramGate::Instance().EnterWithin("Focus", [&] {
+  ProgramGate::Instance().EnterWithin("", [&] {
     if (before != nullptr) before->FireLostFocus();
     control.FireGotFocus();
   });
@@ -174,7 +178,11 @@ void Window::FocusCame(Control& control) {
 void Window::FocusWent(Control& control) {
   if (focused_ != &control) return;
   focused_ = nullptr;
-  ProgramGate::Instance().EnterWithin("Focus", [&] { control.FireLostFocus(); });
+  ProgramGate::Instance().EnterWithin("", [&] { control.FireLostFocus(); });
+}
+
+void Window::FocusCameAgain(Control& control) {
+  ProgramGate::Instance().EnterWithin("", [&] { control.FireGotFocus(); });
 }
 
 bool Window::AbleByItself(const MenuItem& item) const {
@@ -193,7 +201,7 @@ void Window::EnableMenuItems() {
       item.Disable();
     }
   });
-  ProgramGate::Instance().EnterWithin("Menus", [this] { Event_EnableMenuItems(); });
+  ProgramGate::Instance().EnterWithin("", [this] { Event_EnableMenuItems(); });
   native_->ShowEnabling();
 }
 

@@ -87,6 +87,8 @@ class Window : public PropertyTarget {
   // The focus has come to a control, or gone from it, for good and not for the time of a menu.
   void FocusCame(Control& control);
   void FocusWent(Control& control);
+  // The program has given the focus to the control that has it.
+  void FocusCameAgain(Control& control);
   Control* Focused() const { return focused_; }
   void SetDefaultButton(PushButton* button) { default_button_ = button; }
   void SetCancelButton(PushButton* button) { cancel_button_ = button; }

@@ -1,9 +1,16 @@
 #include "plan/draw_solver.h"
 
+#include <cfloat>
 #include <exception>
 
 #include "services/background.h"
 #include "services/numbers.h"
+
+// The bits of the answer depend on the order of the operations and on their precision.
+#if defined(__FAST_MATH__)
+#error "The arithmetic must be exactly that of IEEE 754."
+#endif
+static_assert(FLT_EVAL_METHOD == 0);
 
 namespace fundlet {
 

@@ -59,7 +59,7 @@ void StartParameters(Plan& plan, const std::function<void(const std::string&)>& 
   try {
     OpenRememberedParameters(plan).Close();
   } catch (const std::exception&) {
-    alert("File “" + ParametersFile().Name() + "” is busy.");
+    alert("File “" + std::string(kParametersFileName) + "” is busy.");
   }
 }
 

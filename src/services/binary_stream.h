@@ -9,7 +9,8 @@ namespace fundlet {
 
 // Whole numbers and doubles in a file, each written or read at the position, which then moves on
 // behind it. Every operation that fails raises an IOException; a read past the end of the file is
-// such a failure.
+// such a failure. A change between reading and writing takes a SetPosition in between. After Close,
+// the stream is not to be used.
 class BinaryStream {
  public:
   // Opens an existing file at position 0. It is opened for writing too, also where it is only

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <string_view>
-#include <system_error>
 
 namespace fundlet {
 
@@ -19,10 +18,14 @@ constexpr Reason kReasons[] = {
     {IOException::kNotAFile, "there is something of that name that is not a file"},
     {IOException::kNoFolder, "you have no folder of your own to keep it in"},
     {EISDIR, "there is a folder of that name"},
-    {ENOENT, "the folder or the file is not there"},
+    {ENOENT, "its folder is not there"},
     {ENOTDIR, "a part of its path is not a folder"},
-    {EACCES, "you have no permission to use it"},
-    {EPERM, "you have no permission to use it"},
+#ifdef _WIN32
+    {EACCES, "another program is using it, or you have no permission to write there"},
+#else
+    {EACCES, "you have no permission to write there"},
+#endif
+    {EPERM, "you have no permission to write there"},
     {EROFS, "the disk can only be read"},
     {ENOSPC, "there is no room left on the disk"},
 #ifdef EDQUOT
@@ -52,7 +55,7 @@ std::string_view ActionText(FileAction action) {
     case FileAction::Write:
       return "written";
     case FileAction::Close:
-      return "closed";
+      return "written to the end";
   }
   return "used";
 }
@@ -63,7 +66,8 @@ std::string ReasonText(int error_number) {
   for (const Reason& reason : kReasons) {
     if (reason.error_number == error_number) return std::string(reason.text);
   }
-  return "the system says: " + std::generic_category().message(error_number);
+  if (error_number == 0) return "the system does not say why";
+  return "the system reports fault number " + std::to_string(error_number);
 }
 
 std::string PathText(const std::filesystem::path& path) {

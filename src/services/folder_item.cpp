@@ -75,7 +75,9 @@ FolderItem SpecialFolder::Preferences() {
   if (path.empty()) return {};
   // A folder that cannot be made shows when the file in it is opened or created, which says why.
   std::error_code ignored;
-  fs::create_directories(path, ignored);
+  const bool made = fs::create_directories(path, ignored);
+  // What is kept there is nobody else's business.
+  if (made) fs::permissions(path, fs::perms::owner_all, ignored);
   return FolderItem(path);
 }
 

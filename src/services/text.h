@@ -9,11 +9,12 @@
 // None of them depends on the locale.
 namespace fundlet {
 
-// The number that a text begins with: blanks and tabs, a sign, decimal digits with at most one
-// point among them, and an exponent (e or E, a sign, digits), of which all but one digit may be
-// missing. Reading stops at the first character that cannot belong to the number, a comma among
-// them. Correctly rounded; too large a number gives an infinity of its sign, too small a one a
-// zero of its sign, and a text that begins with no number gives 0.
+// The number that a text begins with: after any blanks and tabs, optionally a sign, then at least
+// one decimal digit with at most one point before, among or behind the digits, then optionally e or
+// E, a sign or none, and at least one digit. Reading stops at the first character that cannot
+// belong to the number, a comma among them. Correctly rounded; too large a number gives an infinity
+// of its sign, too small a one a zero of its sign, "NaN" gives not-a-number, as Format writes it,
+// and a text that begins with no number gives 0.
 double Val(std::string_view text);
 
 // The decimal digits of a whole number, with a leading minus sign when it is negative.

@@ -19,7 +19,7 @@ void GlobalModule::Release() { HelpWindow.reset(); }
 void GlobalModule::AlertBox(const std::string& message) {
   MessageDialog dialog;
   dialog.Message = message;
-  dialog.Icon = 1;
+  dialog.Icon = MessageDialog::kCaution;
   dialog.ActionButton.Caption = "OK";
   Beep();
   dialog.ShowModalWithin(Window::Front());

@@ -21,7 +21,6 @@ namespace fundlet {
 namespace {
 
 constexpr int kTitleBarHeight = 24;  // pixels that the frame is taken to need above the window
-constexpr std::uint32_t kHelpCode = 5;
 
 }  // namespace
 
@@ -90,7 +89,7 @@ void aFundletWindow::Event_EnableMenuItems() {
 bool aFundletWindow::Event_KeyDown(const std::string& key) { return KeyDown(key); }
 
 bool aFundletWindow::KeyDown(const std::string& key) {
-  if (key != Chr(kHelpCode)) return false;
+  if (key != Chr(kHelpKeyCode)) return false;
   aHelpWindow::ShowHelp();
   return true;
 }
