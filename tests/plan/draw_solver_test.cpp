@@ -101,6 +101,16 @@ TEST(DrawSolver, TruncatesTheSumOfTwelveDraws) {
   EXPECT_EQ(plan.Drawing[0], 99999);
 }
 
+TEST(DrawSolver, StopsUnderAMissOfHalfADollarAndNotAtOne) {
+  Plan plan = MakePlan(4, 0, 0, 48.25, 0, 0);
+  SizeArrays(plan);
+  CalculateDraw(plan, 12);
+  EXPECT_EQ(plan.AnnualDraw, 12);
+  plan.Balance[0] = 48.5;
+  CalculateDraw(plan, 12);
+  EXPECT_EQ(plan.AnnualDraw, 12.005);
+}
+
 TEST(DrawSolver, GivesEveryBitOfTheArithmeticInItsOrder) {
   std::mt19937_64 random(3);
   std::uniform_real_distribution<double> part(0, 1);
@@ -124,6 +134,12 @@ TEST(DrawSolver, GivesUpAfterFiftyThousandLevelsAndNotBefore) {
   EXPECT_EQ(SolveBarely(beyond, 60'000).levels, 50'001);
   EXPECT_EQ(LevelsOfSolve(beyond), 50'000);
   EXPECT_FALSE(beyond.OKtoPrint);
+}
+
+TEST(DrawSolver, FailsWhereAParameterIsNotANumber) {
+  Plan plan = MakePlan(4, std::nan(""), .05, 1e6, 1e5, 2e4);
+  Solve(plan);
+  EXPECT_FALSE(plan.OKtoPrint);
 }
 
 TEST(DrawSolver, FailsWhereTheBalanceOverflowsOrAnArrayIsTooShort) {

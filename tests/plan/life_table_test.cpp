@@ -16,6 +16,13 @@ TEST(LifeTable, FallsWithEveryYearOfAge) {
   EXPECT_EQ(std::adjacent_find(alive.begin(), alive.end(), std::less_equal<>()), alive.end());
 }
 
+TEST(LifeTable, AsksForStrictlyFewerThanTheFraction) {
+  Plan plan;
+  plan.Surviving = {100, 50, 49, 1};
+  CalculateSurvival(plan, 0.5);
+  EXPECT_EQ(plan.YearsLeft, 2);
+}
+
 TEST(LifeTable, GivesTheYearsUntilFewerThanTheFractionAreAlive) {
   const std::int64_t rows[][4] = {
       {52, 28, 36, 40}, {60, 21, 28, 32},     {65, 17, 24, 28}, {70, 14, 19, 23},

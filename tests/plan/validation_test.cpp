@@ -48,6 +48,7 @@ TEST(Validation, TellsOfARefusedValueOnceAndForcesOneThatPasses) {
     const auto code = static_cast<std::int64_t>(field);
     const bool forced_afterwards = alert.find("COLA") != alert.npos && text == std::string("100");
     Plan plan;
+    plan.ErrorFocus = 7;
     TextForm form;
     form.At(field) = text;
     form.while_alerting = [&, shown = forced_afterwards ? "100.0" : forced, field = field] {
@@ -87,7 +88,9 @@ TEST(Validation, AcceptsEachValueAtItsBound) {
     Plan plan;
     TextForm form;
     form.texts = texts;
+    plan.ErrorFocus = 7;
     EXPECT_FALSE(ErrorDetected(plan, form)) << form.actions.back();
+    EXPECT_EQ(plan.ErrorFocus, 0);
   }
 }
 

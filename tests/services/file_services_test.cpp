@@ -46,8 +46,8 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
     int number;
     std::string rest;
   } failures[] = {
-      {open, folder.Item("gone ½"), ENOENT, "opened: the folder or the file is not there."},
-      {create, folder.Item("gone/x"), ENOENT, "created: the folder or the file is not there."},
+      {open, folder.Item("gone ½/x"), ENOENT, "opened: its folder is not there."},
+      {create, folder.Item("gone/x"), ENOENT, "created: its folder is not there."},
       {open, folder.Item("folder"), EISDIR, "opened: there is a folder of that name."},
       {create, folder.Item("folder"), EISDIR, "created: there is a folder of that name."},
       {open, folder.Item("pipe"), -2,
@@ -80,7 +80,7 @@ TEST(Preferences, AreInTheConfigurationFolderOrInTheHomeFolder) {
   setenv("HOME", home.c_str(), 1);
   setenv("XDG_CONFIG_HOME", config.c_str(), 1);
   EXPECT_EQ(SpecialFolder::Preferences().Path(), config);
-  EXPECT_TRUE(fs::is_directory(config)) << "it is made when it does not exist";
+  EXPECT_EQ(fs::status(config).permissions(), fs::perms::owner_all) << "made, for nobody else";
   setenv("XDG_CONFIG_HOME", "relative/folder", 1);
   EXPECT_EQ(SpecialFolder::Preferences().Path(), home / ".config");
   unsetenv("XDG_CONFIG_HOME");

@@ -44,6 +44,7 @@ TEST(Val, TakesWhatNoDoubleHoldsToAnInfinityOrAZeroOfItsSign) {
   const std::string nines(10'000, '9');
   ExpectEachReadsAs(kInfinity,
                     {"1e999", "1e99999999999999999999", nines, "1" + zeros, nines + "e-9"});
+  ExpectEachReadsAs(std::numeric_limits<double>::quiet_NaN(), {"NaN", "NaN%"});
   ExpectEachReadsAs(-kInfinity, {"-1e309", "-" + nines});
   ExpectEachReadsAs(0.0,
                     {"1e-999", "1e-99999999999999999999", "0." + zeros + "1", "0e99999999999"});
