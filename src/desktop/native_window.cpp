@@ -174,7 +174,11 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
-  if (object == centralWidget() && event->type() == QEvent::Resize && resizeable_ && isVisible()) {
+  const bool resized =
+      object == centralWidget() && event->type() == QEvent::Resize && resizeable_ && isVisible();
+  // The first show brings a resize to the size that the window was made with, which is none.
+  if (resized && centralWidget()->size() != content_size_) {
+    content_size_ = centralWidget()->size();
     ProgramGate::Instance().EnterWithin("", [this] { window_.Event_Resized(); });
   }
   return QMainWindow::eventFilter(object, event);
