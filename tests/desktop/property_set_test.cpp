@@ -1,0 +1,157 @@
+#include "desktop/property_set.h"
+
+#include <algorithm>
+
+#include "tests/ui/window_fixture.h"
+#include "ui/main_layout.h"
+#include "ui/property_orders.h"
+
+namespace fundlet {
+namespace {
+
+using namespace std::string_literals;
+
+std::string Encoded(const Property& property) { return EncodePropertySet({&property, 1}, {}); }
+
+TEST(PropertySet, EncodesEachKindOfValue) {
+  EXPECT_EQ(Encoded({"Width", 740}), "Width \xE4\x02\0\0\0\0\0\0"s);
+  EXPECT_EQ(Encoded({"Index", -2147483648}), "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s);
+  EXPECT_EQ(Encoded({"Bold", true}), "Bold \x01"s);
+  EXPECT_EQ(Encoded({"TextUnit", false}), "TextUnit \0"s);
+  EXPECT_EQ(Encoded({"Text", "é…"}), "Text \x05\0\0\0é…"s);
+  EXPECT_EQ(Encoded({"Mask", ""}), "Mask \0\0\0\0"s);
+  EXPECT_EQ(Encoded({"TextSize", 12.0F}), "TextSize \0\0\x40\x41"s);
+  EXPECT_EQ(Encoded({"LineSpacing", 1.0}), "LineSpacing \0\0\0\0\0\0\xF0\x3F"s);
+  EXPECT_EQ(Encoded({"BackColor", Colour{0xCC, 0xFF, 0xCE}}), "BackColor \xCC\xFF\xCE\0"s);
+}
+
+std::string Int(int value) {
+  return {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8), 0, 0, 0, 0, 0, 0};
+}
+
+const std::string kAlone = "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s;
+
+TEST(PropertySet, HasTheEntriesOfItsClassInTheirOrder) {
+  const std::string unlocked = "LockBottom \0LockRight \0LockTop \0LockLeft \0"s;
+  const auto set_of = [](std::string_view name) {
+    const auto rows = main_layout::Controls();
+    return main_layout::ControlSet(
+        *std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.name == name; }));
+  };
+  const std::string font = "TextUnit \0TextSize \0\0\x40\x41TextFont \x06\0\0\0System"s;
+  EXPECT_EQ(
+      set_of("StaticText7"),
+      "InitialParent \0\0\0\0DataField \0\0\0\0DataSource \0\0\0\0Underline \0Italic \0Bold \0"s +
+          font +
+          "AutoDeactivate \x01HelpTag \0\0\0\0Transparent \0Selectable \0Visible \x01"
+          "Enabled \x01Multiline \0TextColor \0\0\0\0TextAlign "s +
+          Int(0) + "Text \x01\0\0\0%TabIndex "s + Int(10) + "TabPanelIndex " + Int(0) + unlocked +
+          "Height " + Int(20) + "Width " + Int(21) + "Top " + Int(22) + "Left " + Int(707) +
+          kAlone + "Name \x0B\0\0\0StaticText7TabStop \x01"s);
+  EXPECT_EQ(set_of("Windmill"),
+            "Enabled \x01"
+            "AutoDeactivate \x01HelpTag \0\0\0\0Visible \0InitialParent \0\0\0\0TabStop \x01"
+            "TabIndex "s +
+                Int(24) + "TabPanelIndex " + Int(0) + unlocked + "Height " + Int(16) + "Width " +
+                Int(16) + "Top " + Int(141) + "Left " + Int(469) + kAlone +
+                "Name \x08\0\0\0Windmill"s);
+  EXPECT_EQ(main_layout::WindowSet(),
+            "Width " + Int(740) + "Height " + Int(220) + "MinWidth " + Int(64) + "MinHeight " +
+                Int(64) + "MaxWidth " + Int(32000) + "MaxHeight " + Int(32000) + "Frame " + Int(0) +
+                "Title \x07\0\0\0FundletCloseButton \x01Resizeable \0MaximizeButton \0"
+                "MinimizeButton \x01"
+                "FullScreenButton \0Composite \0MacProcID "s +
+                Int(0) + "Placement " + Int(0) +
+                "Visible \x01LiveResize \x01"
+                "FullScreen \0HasBackColor \x01"
+                "BackColor \xCC\xFF\xCC\0MenuBarVisible \x01"s);
+}
+
+// A field's set is a long one, so that its names in their order stand for the whole.
+TEST(PropertySet, ListsTheNamesOfTheOtherClassesInTheirOrder) {
+  const auto names = [](std::span<const Property> order) {
+    std::string all;
+    for (const Property& entry : order) all.append(entry.name) += ' ';
+    return all;
+  };
+  EXPECT_EQ(names(order::OfTextField()),
+            "InitialParent DataField DataSource AutomaticallyCheckSpelling Alignment AcceptTabs "
+            "LimitText ReadOnly Mask Text CueText Underline Italic Bold TextUnit TextSize TextFont "
+            "AutoDeactivate HelpTag Visible Format Enabled BackColor TextColor UseFocusRing "
+            "Password Border TabStop TabIndex TabPanelIndex LockBottom LockRight LockTop LockLeft "
+            "Height Width Top Left Index Name ");
+  EXPECT_EQ(
+      names(order::OfPushButton()),
+      "InitialParent Underline Italic Bold TextUnit TextSize TextFont ButtonStyle "
+      "AutoDeactivate HelpTag Visible Enabled Cancel Default Caption TabStop TabIndex "
+      "TabPanelIndex LockBottom LockRight LockTop LockLeft Height Width Top Left Index Name ");
+  EXPECT_EQ(names(order::OfTextArea()),
+            "InitialParent DataField DataSource AutomaticallyCheckSpelling Alignment AcceptTabs "
+            "LimitText ReadOnly Mask Text Underline Italic Bold TextUnit TextSize TextFont "
+            "LineSpacing LineHeight HideSelection AutoDeactivate HelpTag Visible Format Enabled "
+            "BackColor TextColor UseFocusRing Styled ScrollbarVertical ScrollbarHorizontal "
+            "Multiline Border TabStop TabIndex TabPanelIndex LockBottom LockRight LockTop LockLeft "
+            "Height Width Top Left Index Name ");
+}
+
+using AppliedSet = StartedTest;
+using Registry = StartedTest;
+
+std::string ErrorOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& error) {
+    return error.what();
+  }
+  return "";
+}
+
+TEST_F(AppliedSet, ASetThatCannotBeAppliedNamesTheObjectAndTheProperty) {
+  const struct {
+    std::string set, error;
+  } cases[] = {
+      {"Colour x", "control “StartYearField”, property “Colour”: there is no such property"},
+      {"MenuBarVisible \x01",
+       "control “StartYearField”, property “MenuBarVisible”: there is no such property"},
+      {"Left \x01\0"s, "control “StartYearField”, property “Left”: the set ends inside the value"},
+      {"Text \xFF\xFF\xFF\xFFx",
+       "control “StartYearField”, property “Text”: the set ends inside the value"},
+      {"Text", "control “StartYearField”, property “”: a name without a value"},
+      {"Bold \0Text"s, "control “StartYearField”, property “”: a name without a value"},
+  };
+  for (const auto& [set, error] : cases) {
+    EXPECT_EQ(ErrorOf([&] { Main().StartYearField()._SetProperties(set); }), error);
+  }
+  EXPECT_EQ(ErrorOf([] { Main()._SetProperties("TabIndex " + Int(1)); }),
+            "window “Fundlet”, property “TabIndex”: there is no such property");
+  EXPECT_EQ(ErrorOf([] {
+              const Property caption{"Caption", "x"};
+              EncodePropertySet(order::OfLabel(), {&caption, 1});
+            }),
+            "no place for the property “Caption”");
+}
+
+TEST_F(AppliedSet, TheEntriesBeforeAFaultHaveBeenSet) {
+  EXPECT_THROW(Main().StaticText1()._SetProperties("Text \x02\0\0\0okWidth "s), PropertyError);
+  EXPECT_EQ(Main().StaticText1().Text(), "ok");
+}
+
+TEST_F(Registry, ControlsAndMenuItemsAreFoundByNameOnly) {
+  EXPECT_EQ(&Main().Menus()._Lookup("UntitledMenu11"), &Main()
+                                                            .Menus()
+                                                            .Child("EditMenu")
+                                                            .Child("EditSurvival")
+                                                            .Child("Survival2")
+                                                            .Child("UntitledMenu11"));
+  EXPECT_EQ(ErrorOf([] { Main().Menus().Child("Survival2"); }),
+            "The menu “” has no item “Survival2”.");
+  EXPECT_EQ(ErrorOf([] { Main().Menus()._Lookup("survival2"); }),
+            "The menus have no item “survival2”.");
+  EXPECT_EQ(ErrorOf([] { Main()._ControlByName("StaticText12"); }),
+            "The window has no control “StaticText12”.");
+  EXPECT_EQ(ErrorOf([] { Main().ControlOf<Label>("Windmill"); }),
+            "The control “Windmill” is of another class.");
+}
+
+}  // namespace
+}  // namespace fundlet

@@ -1,0 +1,119 @@
+#include "ui/help_window.h"
+
+#include <QClipboard>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "desktop/native_window.h"
+#include "tests/ui/window_fixture.h"
+#include "ui/global_module.h"
+#include "ui/help_text.h"
+
+namespace fundlet {
+namespace {
+
+class Help : public StartedTest {
+ protected:
+  static aHelpWindow& Window() { return *GlobalModule::HelpWindow; }
+  static int Showing() {
+    int showing = 0;
+    for (const QWidget* top : QApplication::topLevelWidgets()) {
+      showing += top->isVisible() && top->windowTitle() == "Fundlet Help" ? 1 : 0;
+    }
+    return showing;
+  }
+  static QRect Place(const char* control) { return Found(control).geometry(); }
+};
+
+TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
+  const std::function<void()> routes[] = {
+      [] { user::Key(Qt::Key_E, Qt::ControlModifier); },
+      [] { user::Key(Qt::Key_Help); },
+      [] { user::Key(Qt::Key_F1); },
+      [] { user::Choose("Help", "Fundlet Help…"); },
+      [] {
+        Main().ClearFocus();
+        user::Key(Qt::Key_E, Qt::ControlModifier);
+      },
+  };
+  for (const auto& open : routes) {
+    Fill("COLAField", "3.1");
+    open();
+    EXPECT_EQ(Showing(), 1);
+    EXPECT_EQ(QApplication::activeWindow(), &Window().Native());
+    const aHelpWindow* first = &Window();
+    Main().Native().activateWindow();
+    user::Settle();
+    EXPECT_EQ(Text("COLAField"), "3.1");
+    user::Key(Qt::Key_F1);
+    EXPECT_EQ(&Window(), first);
+    EXPECT_EQ(Showing(), 1);
+    user::Choose("Help", "Fundlet Help…");
+    EXPECT_EQ(&Window(), first);
+    user::Key(Qt::Key_Return);
+    EXPECT_EQ(Showing(), 0);
+    EXPECT_FALSE(GlobalModule::HelpShowing);
+    EXPECT_EQ(FocusName(), "COLAField");
+  }
+}
+
+TEST_F(Help, StandsAsMadeUntilItIsResizedAndThenFollowsItsSize) {
+  user::Key(Qt::Key_F1);
+  EXPECT_EQ(Window().Native().Content().size(), QSize(498, 430));
+  EXPECT_EQ(Place("TextField"), QRect(20, 20, 452, 356));
+  EXPECT_EQ(Place("DoneButton"), QRect(405, 392, 69, 18));
+  const auto resize_by = [](int width, int height) {
+    Window().Native().resize(Window().Native().size() + QSize(width, height));
+    user::Settle();
+  };
+  resize_by(-300, -300);
+  EXPECT_EQ(Window().Native().Content().size(), QSize(400, 300));
+  EXPECT_EQ(Place("TextField"), QRect(20, 20, 354, 226));
+  EXPECT_EQ(Place("DoneButton"), QRect(305, 265, 69, 18));
+  resize_by(98, 130);
+  EXPECT_EQ(Place("TextField"), QRect(20, 20, 452, 356));
+  EXPECT_EQ(Place("DoneButton"), QRect(403, 395, 69, 18));
+  user::CloseBox(Window().Native());
+  user::Key(Qt::Key_F1);
+  EXPECT_EQ(Place("DoneButton"), QRect(405, 392, 69, 18));
+}
+
+TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
+  const std::string page = HelpText();
+  EXPECT_EQ(page.substr(0, 19), "Fundlet\rVersion 5\r\r");
+  EXPECT_TRUE(page.ends_with(
+      "\r\rYou may view this window at any time by pressing the Help key (or control-e)."));
+  EXPECT_EQ(page.find('\n'), std::string::npos);
+  EXPECT_EQ(page.size(), 4908U);
+  EXPECT_EQ(std::count(page.begin(), page.end(), '\r'), 45);
+  user::Key(Qt::Key_F1);
+  user::Type("x");
+  user::Key(Qt::Key_Delete);
+  EXPECT_EQ(Window().TextField().Text(), page);
+}
+
+TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
+  user::Key(Qt::Key_F1);
+  auto& area = Found<QPlainTextEdit>("TextField");
+  const auto enabled = [] {
+    std::string names;
+    Window().EnableMenuItems();
+    Window().Menus().ForEach([&](MenuItem& item) {
+      if (item.Enabled() && item.Name.starts_with("Edit")) names += item.Name;
+    });
+    return names;
+  };
+  EXPECT_EQ(FocusName(), "TextField");
+  EXPECT_EQ(enabled(), "");
+  for (int i = 0; i < 7; ++i) user::Key(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(enabled(), "EditCopy");
+  user::Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "Fundlet");
+  EXPECT_FALSE(Window().Menus()._Lookup("FileSave").Enabled());
+  user::Key(Qt::Key_Tab);
+  user::Click(*area.viewport());
+  EXPECT_EQ(area.textCursor().selectedText(), "");
+}
+
+}  // namespace
+}  // namespace fundlet

@@ -1,0 +1,241 @@
+#include "tests/ui/window_fixture.h"
+
+#include <utility>
+
+#include <QAction>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include "app/my_application.h"
+#include "desktop/native_window.h"
+#include "ui/global_module.h"
+
+namespace fundlet {
+
+namespace user {
+
+namespace {
+
+QWindow* InFront() {
+  if (QWindow* focused = QGuiApplication::focusWindow()) return focused;
+  throw std::runtime_error("no window has the keyboard");
+}
+
+QAction* ActionNamed(const QWidget& menu, QString text) {
+  for (QAction* action : menu.actions()) {
+    if (action->text().remove('&') == text) return action;
+  }
+  throw std::runtime_error("no menu item " + text.toStdString());
+}
+
+void ClickItem(QMenu& menu, const QString& text) {
+  const QPoint at = menu.actionGeometry(ActionNamed(menu, text)).center();
+  // A menu takes no click before the mouse has moved.
+  QTest::mouseMove(menu.windowHandle(), at - QPoint(3, 1));
+  QTest::mouseMove(menu.windowHandle(), at);
+  QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, at);
+  Settle();
+}
+
+QMenu& OpenPopup() {
+  if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) return *menu;
+  throw std::runtime_error("no menu is open");
+}
+
+// What a window manager does, which this platform lacks: a popup does not take the keyboard from
+// its window, and when the window that has it closes, the front one gets it.
+void ManageKeyboard() {
+  const QWindow* focused = QGuiApplication::focusWindow();
+  if (focused != nullptr && focused->isVisible() && focused->type() != Qt::Popup) return;
+  QWidget* next = QApplication::activeWindow();
+  if (next == nullptr || !next->isVisible()) {
+    next = Window::Front() != nullptr ? &Window::Front()->Native() : nullptr;
+  }
+  if (next != nullptr) next->windowHandle()->requestActivate();
+}
+
+}  // namespace
+
+void Settle() {
+  for (int round = 0; round < 4; ++round) {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ManageKeyboard();
+  }
+}
+
+void Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(InFront(), key, modifiers);
+  Settle();
+}
+
+void Type(const std::string& text) {
+  for (const char c : text) QTest::keyClick(InFront(), c);
+  Settle();
+}
+
+void Replace(const std::string& text) {
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Key(Qt::Key_Backspace);
+  Type(text);
+}
+
+void Click(QWidget& widget) { Click(widget, widget.rect().center()); }
+
+void Click(QWidget& widget, QPoint at, Qt::MouseButton button) {
+  QWidget* window = widget.window();
+  QTest::mouseClick(window->windowHandle(), button, {}, widget.mapTo(window, at));
+  Settle();
+}
+
+void CloseBox(QWidget& window) {
+  window.windowHandle()->close();
+  Settle();
+}
+
+void OpenMenu(const QString& menu) {
+  auto* bar = QApplication::activeWindow()->findChild<QMenuBar*>();
+  Click(*bar, bar->actionGeometry(ActionNamed(*bar, menu)).center());
+}
+
+void Choose(const QString& menu, const QString& item, const QString& subitem) {
+  OpenMenu(menu);
+  ClickItem(OpenPopup(), item);
+  if (!subitem.isEmpty()) ClickItem(OpenPopup(), subitem);
+  while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+  Settle();
+}
+
+}  // namespace user
+
+std::string FocusName() {
+  const QWidget* widget = QApplication::focusWidget();
+  return widget != nullptr ? widget->objectName().toStdString() : "";
+}
+
+Answer ByKey(Qt::Key key) {
+  return [key](QWidget& dialog) { QTest::keyClick(dialog.windowHandle(), key); };
+}
+
+Answer ByButton() {
+  return [](QWidget& dialog) { user::Click(*static_cast<QMessageBox&>(dialog).defaultButton()); };
+}
+
+Answer ByCloseBox() {
+  return [](QWidget& dialog) { user::CloseBox(dialog); };
+}
+
+Answer BySaving(const std::string& path) {
+  return [path](QWidget& dialog) {
+    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    name->setFocus();
+    name->selectAll();
+    QGuiApplication::clipboard()->setText(QString::fromStdString(path));
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_V, Qt::ControlModifier);
+    if (QWidget* completer = QApplication::activePopupWidget()) completer->hide();
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
+  };
+}
+
+DesktopTest::DesktopTest() {
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  setenv("HOME", folder_.Path().c_str(), 1);
+}
+
+DesktopTest::~DesktopTest() {
+  EXPECT_TRUE(expected_.empty()) << "an expected dialog was not shown";
+  End();
+}
+
+void DesktopTest::End() {
+  watchdog_.reset();
+  runtime_.reset();
+}
+
+void DesktopTest::StartWith(const std::function<void()>& early, const std::function<void()>& late) {
+  runtime_.emplace("fundlet");
+  runtime_->Start(early, [&] {
+    watchdog_ = std::make_unique<QObject>();
+    Watch();
+    late();
+  });
+  user::Settle();
+}
+
+int DesktopTest::RunWith(const std::function<void()>& action) {
+  QTimer::singleShot(0, watchdog_.get(), action);
+  QTimer::singleShot(std::chrono::seconds(20), watchdog_.get(), [] {
+    ADD_FAILURE() << "the program did not end";
+    QCoreApplication::exit(-1);
+  });
+  return runtime_->Run();
+}
+
+std::vector<std::string> DesktopTest::TakeDialogs() { return std::exchange(shown_, {}); }
+
+namespace {
+
+QWidget* OpenDialog() {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (auto* active = qobject_cast<QDialog*>(QApplication::activeWindow())) return active;
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->isVisible() && qobject_cast<QDialog*>(top) != nullptr) return top;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void DesktopTest::Watch() {
+  // Before anything else, so that it goes on while an answer runs an event loop of its own.
+  QTimer::singleShot(2, watchdog_.get(), [this] { Watch(); });
+  QWidget* dialog = OpenDialog();
+  if (dialog == nullptr || dialog == handled_) return;
+  QWidget* before = std::exchange(handled_, dialog);
+  Handle(*dialog);
+  handled_ = before;
+}
+
+void DesktopTest::Handle(QWidget& dialog) {
+  const auto* box = qobject_cast<QMessageBox*>(&dialog);
+  const QString text = box != nullptr ? box->text() + box->informativeText() : dialog.windowTitle();
+  shown_.push_back(text.toStdString());
+  if (expected_.empty()) {
+    ADD_FAILURE() << "unexpected dialog: " << shown_.back();
+    dialog.close();
+    return;
+  }
+  const Answer answer = std::move(expected_.front());
+  expected_.pop_front();
+  answer(dialog);
+}
+
+void FundletTest::Start(const QString& system_font) {
+  GlobalModule::Initialise();
+  StartWith(&MyApplication::_EarlyStartup, [&] {
+    if (!system_font.isEmpty()) QApplication::setFont(QFont(system_font));
+    MyApplication::_LateStartup();
+  });
+}
+
+void FundletTest::EndProgram() {
+  GlobalModule::Release();
+  End();
+}
+
+void FundletTest::Fill(const QString& field, const std::string& text) {
+  for (int step = 0; step < 12 && FocusName() != field.toStdString(); ++step) {
+    user::Key(Qt::Key_Tab);
+  }
+  user::Replace(text);
+}
+
+}  // namespace fundlet

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include "desktop/runtime.h"
+#include "tests/services/scratch_folder.h"
+#include "ui/main_window.h"
+
+namespace fundlet {
+
+// What a person does at the keyboard and with the mouse. Every event goes to a native window of the
+// toolkit, so that shortcuts, focus and popups take their real way; each action returns when what
+// follows from it is done.
+namespace user {
+
+void Settle();
+void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void Type(const std::string& text);
+void Replace(const std::string& text);  // selects all, then types
+void Click(QWidget& widget);
+void Click(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton);
+void CloseBox(QWidget& window);
+// Opens the menu on the active window's bar, and then chooses the item; texts are as shown.
+void OpenMenu(const QString& menu);
+void Choose(const QString& menu, const QString& item, const QString& subitem = "");
+
+}  // namespace user
+
+// The widget of that object name in a visible window; the test ends where there is none.
+template <typename Widget = QWidget>
+Widget& Found(const QString& name) {
+  for (const QWidget* top : QApplication::topLevelWidgets()) {
+    if (!top->isVisible()) continue;
+    if (auto* widget = top->findChild<Widget*>(name)) return *widget;
+  }
+  throw std::runtime_error("no widget " + name.toStdString());
+}
+std::string FocusName();  // the object name of the widget that has the focus, empty for none
+
+// How a person answers a dialog.
+using Answer = std::function<void(QWidget& dialog)>;
+Answer ByKey(Qt::Key key);
+Answer ByButton();  // a click on its default button
+Answer ByCloseBox();
+Answer BySaving(const std::string& path);  // in the save dialog: pastes the path, presses Return
+
+// A desktop that starts and ends with each test, with a preferences folder of its own. A dialog
+// that no test expects is closed and fails the test.
+class DesktopTest : public ::testing::Test {
+ protected:
+  DesktopTest();
+  ~DesktopTest() override;
+
+  void StartWith(const std::function<void()>& early, const std::function<void()>& late);
+  // Runs the event loop with the action as its first event, until Quit; gives the exit status.
+  int RunWith(const std::function<void()>& action);
+  void End();  // ends the run; the preferences folder stays
+  void ExpectDialog(Answer answer) { expected_.push_back(std::move(answer)); }
+  void ForgetExpected() { expected_.clear(); }
+  std::vector<std::string> TakeDialogs();  // the texts of those shown since the last call
+
+  ScratchFolder folder_;
+
+ private:
+  void Watch();
+  void Handle(QWidget& dialog);
+
+  std::optional<Runtime> runtime_;
+  std::unique_ptr<QObject> watchdog_;
+  std::deque<Answer> expected_;
+  std::vector<std::string> shown_;
+  QWidget* handled_ = nullptr;
+};
+
+// The program itself.
+class FundletTest : public DesktopTest {
+ protected:
+  ~FundletTest() override { EndProgram(); }
+  void Start(const QString& system_font = "");
+  void EndProgram();
+
+  static aFundletWindow& Main() { return aFundletWindow::Instance(); }
+  static Plan& ThePlan() { return Main().ThePlan(); }
+  static std::string Text(const QString& field) {
+    return Found<QLineEdit>(field).text().toStdString();
+  }
+  static std::string Selected(const QString& field) {
+    return Found<QLineEdit>(field).selectedText().toStdString();
+  }
+  static std::string Result() { return Main().AnnualDrawField().Text(); }
+  // Goes to the field by Tab and types over what it holds.
+  static void Fill(const QString& field, const std::string& text);
+  static void Calculate() { user::Key(Qt::Key_Return); }
+};
+
+// A program already started, with the defaults.
+class StartedTest : public FundletTest {
+ protected:
+  void SetUp() override { Start(); }
+};
+
+}  // namespace fundlet
