@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QIcon>
 
 #include "desktop/held_input.h"
 #include "desktop/program_gate.h"
@@ -14,6 +15,14 @@ namespace {
 
 Application* registered_application = nullptr;
 std::map<std::string, std::unique_ptr<Window>> implicit_instances;
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 64, 128}) {
+    icon.addFile(QString(":/fundlet/fundlet-%1.png").arg(size), QSize(size, size));
+  }
+  return icon;
+}
 
 }  // namespace
 
@@ -73,6 +82,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   parts_->toolkit = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
   QApplication::setApplicationName("Fundlet");
   QApplication::setApplicationVersion("5");
+  QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName("fundlet");
   QApplication::setQuitOnLastWindowClosed(false);
   parts_->held_input = std::make_unique<HeldInput>();

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Draws the pictures of each size anew. The smallest ones have a drawing of their own, because the
+# outlines of the large one are thinner than a pixel there.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+for size in 16 22 24 32 48 64 128 256; do
+  drawing=fundlet.svg
+  [ "$size" -gt 24 ] || drawing=fundlet-small.svg
+  rsvg-convert --width "$size" --height "$size" --output "fundlet-$size.png" "$drawing"
+done

@@ -1,0 +1,41 @@
+# shellcheck shell=bash
+# To be sourced, with the folder of the sources in $source.
+. "$source/tools/screen.sh"
+
+wrong() {
+  echo "$(basename "$0"): $*" >&2
+  exit 1
+}
+
+skip() {
+  echo "Skipped: $*"
+  exit 77
+}
+
+need() {
+  local command
+  for command in "$@"; do
+    command -v "$command" >/dev/null || skip "$command is not installed."
+  done
+}
+
+# desktop_entry_value FILE KEY
+desktop_entry_value() { sed -n "s/^$2=//p" "$1"; }
+
+# start_and_quit DESKTOP_ENTRY COMMAND...: the window opens with the program's icon and the class
+# that the desktop entry is found by, and is closed by its shortcut.
+start_and_quit() {
+  local entry=$1 process status=0
+  shift
+  "$@" &
+  process=$!
+  screen_processes+=("$process")
+  wait_for 60 other_window_of_is_active "$process" none || wrong "no window of $*"
+  xprop -id "$(active_window)" WM_CLASS |
+    grep -qF "\"$(desktop_entry_value "$entry" StartupWMClass)\"" || wrong 'class of the window'
+  xprop -id "$(active_window)" _NET_WM_ICON >"$screen_folder/icon"
+  grep -qF '(64 x 64)' "$screen_folder/icon" || wrong 'the window has no icon'
+  press ctrl+q
+  wait "$process" || status=$?
+  [ "$status" -eq 0 ] || wrong "exit status $status of $*"
+}

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# The built program installed into an empty prefix: installed.sh SOURCE BUILD
+set -euo pipefail
+source=$1
+build=$2
+. "$source/tests/packaging/helpers.sh"
+need desktop-file-validate appstreamcli man Xvfb openbox xdotool xprop
+
+folder=$(mktemp -d)
+trap 'close_screen; rm -rf "$folder"' EXIT
+cmake --install "$build" --prefix "$folder/prefix" >/dev/null
+share=$folder/prefix/share
+entry=$share/applications/fundlet.desktop
+
+desktop-file-validate "$entry"
+appstreamcli validate --no-net "$share"/metainfo/*.xml
+cmake -S "$source" -B "$folder/build" -G Ninja -DBUILD_TESTING=OFF -DFUNDLET_BENCH=OFF \
+  -DFUNDLET_SCREENSHOT_URL=https://example.org/doc/window.png >/dev/null
+appstreamcli validate --no-net "$folder"/build/packaging/*.metainfo.xml
+grep -q '<image>https://example.org/' "$folder"/build/packaging/*.metainfo.xml ||
+  wrong 'the screenshot is not in the metainfo'
+
+remarks=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z \
+  "$share/man/man1/fundlet.1" 2>&1 >/dev/null)
+[ -z "$remarks" ] || wrong "manual page: $remarks"
+
+open_screen 1024x640 || wrong 'the virtual screen did not open'
+start_and_quit "$entry" "$folder/prefix/bin/$(desktop_entry_value "$entry" Exec)"
