@@ -73,6 +73,11 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
   EXPECT_THROW(TextOutputStream::Create(std::nullopt), NilObjectException);
 }
 
+TEST(IOException, HasAReasonForAFaultThatItDoesNotKnow) {
+  EXPECT_EQ(ReasonText(0), "the system does not say why");
+  EXPECT_EQ(ReasonText(99999), "the system reports fault number 99999");
+}
+
 TEST(Preferences, AreInTheConfigurationFolderOrInTheHomeFolder) {
   const ScratchFolder folder;
   const fs::path config = folder.Path() / "Konfiguration é" / "deep";
