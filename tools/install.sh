@@ -18,6 +18,9 @@ screen  xdotool           xdotool
 screen  imagemagick       import
 tests   libgtest-dev      -
 tests   locales           localedef
+tests   dbus              dbus-run-session
+tests   at-spi2-core      -
+tests   python3-pyatspi   -
 tests   build-essential   -
 tests   debhelper         dh
 tests   lintian           lintian

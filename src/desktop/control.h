@@ -49,6 +49,9 @@ class Control : public PropertyTarget {
   // The focus has come, or gone. The window calls these; they run the program's handlers.
   virtual void FireGotFocus() {}
   virtual void FireLostFocus() {}
+  // Whether the control has lost the focus when its window is no longer the active one: so it is
+  // with what can be typed into, and so may hold what the program has not read yet.
+  virtual bool LosesFocusWithWindow() const { return false; }
 
  protected:
   Control(Window& window, QWidget* native);

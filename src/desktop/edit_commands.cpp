@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
@@ -15,7 +16,7 @@ namespace fundlet {
 
 namespace {
 
-bool ClipboardHasText() { return !QGuiApplication::clipboard()->text().isEmpty(); }
+bool ClipboardHasText() { return QGuiApplication::clipboard()->mimeData()->hasText(); }
 
 bool HasCopyable(const QLineEdit& field) {
   return field.hasSelectedText() && field.echoMode() == QLineEdit::Normal;

@@ -19,7 +19,8 @@ class FocusReporting : public Widget {
   Window& Owner() const { return window_; }
 
   void focusInEvent(QFocusEvent* event) override {
-    Widget::focusInEvent(event);
+    QFocusEvent toolkits(ForToolkit(*event));
+    Widget::focusInEvent(&toolkits);
     // A window that comes back while a handler runs is given its activation afterwards, and that
     // decides where the focus is to be.
     const bool toolkits_choice = event->reason() == Qt::ActiveWindowFocusReason &&
@@ -28,13 +29,26 @@ class FocusReporting : public Widget {
   }
 
   void focusOutEvent(QFocusEvent* event) override {
-    Widget::focusOutEvent(event);
-    const bool for_a_menu =
-        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason;
-    if (!for_a_menu) window_.FocusWent(control_);
+    QFocusEvent toolkits(ForToolkit(*event));
+    Widget::focusOutEvent(&toolkits);
+    if (IsForMenu(*event)) return;
+    if (event->reason() == Qt::ActiveWindowFocusReason) {
+      window_.Deactivated();
+    } else {
+      window_.FocusWent(control_);
+    }
   }
 
  private:
+  static bool IsForMenu(const QFocusEvent& event) {
+    return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
+  }
+  // The toolkit's text fields keep their selection for the time of a popup, but not for that of the
+  // menu bar, whose commands act on it all the same.
+  static QFocusEvent ForToolkit(const QFocusEvent& event) {
+    return QFocusEvent(event.type(), IsForMenu(event) ? Qt::PopupFocusReason : event.reason());
+  }
+
   Window& window_;
   Control& control_;
 };

@@ -99,15 +99,11 @@ void MenuView::ShowEnabling() {
   for (const Shown& shown : shown_) shown.action->setEnabled(shown.item->Enabled());
 }
 
-bool MenuView::HasShortcut(QKeyCombination keys) const {
-  return std::any_of(shown_.begin(), shown_.end(), [keys](const Shown& shown) {
-    return shown.action->shortcut() == QKeySequence(keys);
-  });
-}
-
 bool MenuView::TriggerShortcut(QKeyCombination keys) {
+  const QKeySequence sequence(
+      QKeyCombination(keys.keyboardModifiers() & ~Qt::KeypadModifier, keys.key()));
   for (const Shown& shown : shown_) {
-    if (shown.action->shortcut() != QKeySequence(keys) || !shown.action->isEnabled()) continue;
+    if (shown.action->shortcut() != sequence || !shown.action->isEnabled()) continue;
     shown.action->trigger();
     return true;
   }

@@ -21,8 +21,6 @@ class MenuView {
 
   // Shows which items are enabled.
   void ShowEnabling();
-  // True where the keys are the shortcut of an item.
-  bool HasShortcut(QKeyCombination keys) const;
   // Chooses the item whose shortcut the keys are; True where there is one that is enabled.
   bool TriggerShortcut(QKeyCombination keys);
 

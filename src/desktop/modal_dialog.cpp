@@ -20,18 +20,26 @@ std::vector<QDialog*>& OpenDialogs() {
   return dialogs;
 }
 
+// A dialog while it is open.
+class OpenDialog {
+ public:
+  explicit OpenDialog(QDialog& dialog) { OpenDialogs().push_back(&dialog); }
+  ~OpenDialog() { OpenDialogs().pop_back(); }
+  OpenDialog(const OpenDialog&) = delete;
+  OpenDialog& operator=(const OpenDialog&) = delete;
+};
+
 }  // namespace
 
 void ModalDialog::Run(QDialog& dialog, Window* owner) {
   QEventLoop loop;
   QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
-  OpenDialogs().push_back(&dialog);
+  const OpenDialog open(dialog);
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
   dialog.raise();
   dialog.activateWindow();
   loop.exec();
-  OpenDialogs().pop_back();
   if (owner != nullptr) owner->DialogClosed();
 }
 

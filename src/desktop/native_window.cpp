@@ -131,7 +131,8 @@ void NativeWindow::ShowMenus() {
 }
 
 void NativeWindow::BeforeShortcut(QKeyCombination keys) {
-  if (menus_ && menus_->HasShortcut(keys)) window_.EnableMenuItems();
+  const bool may_be_shortcut = keys.keyboardModifiers().testFlag(Qt::ControlModifier);
+  if (menus_ && may_be_shortcut) window_.EnableMenuItems();
 }
 
 bool NativeWindow::TriggerShortcut(QKeyCombination keys) {

@@ -38,7 +38,7 @@ class NativeWindow : public QMainWindow {
 
   // Makes the menus; to be called once the window's set of menus is settled.
   void ShowMenus();
-  // Runs the enabling pass when the keys are the shortcut of an item.
+  // Runs the enabling pass when the keys may be the shortcut of an item.
   void BeforeShortcut(QKeyCombination keys);
   bool TriggerShortcut(QKeyCombination keys);
   void ShowEnabling();

@@ -56,30 +56,44 @@ void ProgramGate::RunGuarded(const std::string& what, const std::function<void()
 }
 
 void ProgramGate::Enter(const std::string& what, std::function<void()> handler) {
-  waiting_.push_back({what, std::move(handler)});
-  if (!Busy()) RunWaiting();
-}
-
-void ProgramGate::RunWaiting() {
-  while (!waiting_.empty() && !shut_) {
-    const Entry entry = std::move(waiting_.front());
-    waiting_.pop_front();
-    SetUserCancelled(false);
-    RunGuarded(entry.what, entry.handler);
-  }
-  if (idle_handler_) idle_handler_();
+  Run({what, std::move(handler), true});
 }
 
 void ProgramGate::EnterWithin(const std::string& what, const std::function<void()>& handler) {
   if (Busy()) {
     RunGuarded(what, handler);
   } else {
-    Enter(what, handler);
+    Run({what, handler, false});
   }
+}
+
+void ProgramGate::Run(Entry entry) {
+  if (shut_) return;
+  waiting_.push_back(std::move(entry));
+  if (!Busy()) RunWaiting();
+}
+
+void ProgramGate::RunWaiting() {
+  bool command_ran = false;
+  while (!waiting_.empty()) {
+    const Entry entry = std::move(waiting_.front());
+    waiting_.pop_front();
+    SetUserCancelled(false);
+    RunGuarded(entry.what, entry.handler);
+    command_ran = command_ran || entry.is_command;
+  }
+  Window* front = Window::Front();
+  if (command_ran && front != nullptr && !shut_) front->EnableMenuItems();
+  if (idle_handler_) idle_handler_();
 }
 
 void ProgramGate::Shut() {
   shut_ = true;
+  waiting_.clear();
+}
+
+void ProgramGate::Reopen() {
+  shut_ = false;
   waiting_.clear();
 }
 

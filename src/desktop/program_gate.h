@@ -26,14 +26,16 @@ class ProgramGate {
   void SetIdleHandler(std::function<void()> handler) { idle_handler_ = std::move(handler); }
   // The program is ending: nothing that waits is run any more.
   void Shut();
-  void Reopen() { shut_ = false; }
+  void Reopen();
 
  private:
   struct Entry {
     std::string what;
     std::function<void()> handler;
+    bool is_command;  // after it, the menus show anew what can be chosen
   };
 
+  void Run(Entry entry);
   void RunGuarded(const std::string& what, const std::function<void()>& handler);
   void RunWaiting();
 

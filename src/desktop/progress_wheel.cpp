@@ -5,6 +5,8 @@
 #include <QTimerEvent>
 #include <QWidget>
 
+#include "desktop/accessible_role.h"
+
 namespace fundlet {
 
 namespace {
@@ -14,7 +16,10 @@ constexpr int kMillisecondsPerSpoke = 60;
 
 class WheelWidget : public QWidget {
  public:
-  WheelWidget() { setAccessibleName("Busy"); }
+  WheelWidget() {
+    setAccessibleName("Busy");
+    SetAccessibleRole(*this, QAccessible::Animation);
+  }
 
  protected:
   void showEvent(QShowEvent* /*event*/) override { timer_.start(kMillisecondsPerSpoke, this); }

@@ -1,10 +1,12 @@
 #include "desktop/runtime.h"
 
 #include <map>
+#include <optional>
 #include <utility>
 
 #include <QApplication>
 #include <QIcon>
+#include <QPixmapCache>
 
 #include "desktop/held_input.h"
 #include "desktop/program_gate.h"
@@ -15,6 +17,10 @@ namespace {
 
 Application* registered_application = nullptr;
 std::map<std::string, std::unique_ptr<Window>> implicit_instances;
+std::optional<int> end_status;  // once the end has been asked for
+
+// The style keeps pictures of each new window's buttons; so much is plenty for two windows.
+constexpr int kPictureCacheKilobytes = 1024;
 
 QIcon ProgramIcon() {
   QIcon icon;
@@ -43,6 +49,7 @@ void RegisterApplication(Application& application) { registered_application = &a
 
 void Quit(int status) {
   ProgramGate::Instance().Shut();
+  end_status = status;
   QCoreApplication::exit(status);
 }
 
@@ -65,6 +72,7 @@ struct Runtime::Parts {
 
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {
   ProgramGate::Instance().Reopen();
+  end_status.reset();
 }
 
 Runtime::~Runtime() {
@@ -85,11 +93,14 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName("fundlet");
   QApplication::setQuitOnLastWindowClosed(false);
+  QPixmapCache::setCacheLimit(kPictureCacheKilobytes);
   parts_->held_input = std::make_unique<HeldInput>();
   ProgramGate::Instance().Enter("Start", late);
 }
 
 int Runtime::Run() {
+  // The toolkit forgets an end that was asked for before its loop runs.
+  if (end_status) return *end_status;
   if (Window::Front() == nullptr) return 1;
   return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QStandardPaths>
 
+#include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/qt_text.h"
 #include "desktop/window.h"
@@ -29,11 +30,13 @@ QString StartFolder() {
 std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
                                             const std::string& proposed_name) {
   Window* window = Window::Front();
-  const QString path =
-      QFileDialog::getSaveFileName(window != nullptr ? &window->Native() : nullptr, "Save",
-                                   QDir(StartFolder()).filePath(ToQt(proposed_name)), ToQt(filter));
-  if (window != nullptr) window->DialogClosed();
-  if (path.isEmpty()) return std::nullopt;
+  QFileDialog dialog(window != nullptr ? &window->Native() : nullptr, "Save", StartFolder(),
+                     ToQt(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.selectFile(ToQt(proposed_name));
+  ModalDialog::Run(dialog, window);
+  const QString path = dialog.selectedFiles().value(0);
+  if (dialog.result() != QDialog::Accepted || path.isEmpty()) return std::nullopt;
   LastFolder() = QFileInfo(path).absolutePath();
   const QByteArray name = path.toUtf8();
   return FolderItem(std::u8string(name.begin(), name.end()));

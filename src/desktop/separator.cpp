@@ -3,11 +3,16 @@
 #include <QPainter>
 #include <QWidget>
 
+#include "desktop/accessible_role.h"
+
 namespace fundlet {
 
 namespace {
 
 class RuleWidget : public QWidget {
+ public:
+  RuleWidget() { SetAccessibleRole(*this, QAccessible::Separator); }
+
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);

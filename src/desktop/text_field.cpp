@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -34,30 +35,11 @@ class FieldWidget : public FocusReporting<QLineEdit> {
     return contents.width() - margins.left() - margins.right() - kOwnMargins - kCaret;
   }
 
-  // Several fields can have a selection, but only the one that the user is in shows it.
-  void ShowSelection(bool shown) {
-    const QPalette window_colours = parentWidget()->palette();
-    QPalette colours = palette();
-    if (shown) {
-      colours.setColor(QPalette::Highlight, window_colours.color(QPalette::Highlight));
-      colours.setColor(QPalette::HighlightedText, window_colours.color(QPalette::HighlightedText));
-    } else {
-      colours.setColor(QPalette::Highlight, colours.color(QPalette::Base));
-      colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
-    }
-    setPalette(colours);
-  }
-
  protected:
   void focusInEvent(QFocusEvent* event) override {
-    ShowSelection(true);
     // The click that brings the focus selects the whole text, and must not undo that.
     brought_by_click_ = event->reason() == Qt::MouseFocusReason;
     FocusReporting::focusInEvent(event);
-  }
-  void focusOutEvent(QFocusEvent* event) override {
-    FocusReporting::focusOutEvent(event);
-    ShowSelection(Owner().Focused() == &field_);
   }
   void mousePressEvent(QMouseEvent* event) override {
     if (!brought_by_click_) FocusReporting::mousePressEvent(event);
@@ -113,6 +95,8 @@ void SetRole(QWidget& widget, QPalette::ColorRole role, Colour colour) {
 
 TextField::TextField(Window& window) : TextControl(window, new FieldWidget(window, *this)) {
   FieldOf(*this).setFocusPolicy(Qt::StrongFocus);
+  // A text dropped on a field would stand there without the focus, and be lost at the next rewrite.
+  FieldOf(*this).setAcceptDrops(false);
   QObject::connect(
       &FieldOf(*this), &QLineEdit::textEdited, &FieldOf(*this),
       [this](const QString& text) { UpdateTypingLimit(static_cast<int>(text.size())); });
@@ -124,8 +108,9 @@ void TextField::SetText(std::string_view text) {
   const QString shown = ToQt(text);
   UpdateTypingLimit(static_cast<int>(shown.size()));
   FieldOf(*this).setText(shown);
+  waiting_selection_.reset();
   const bool within_limit = limit_ == 0 || shown.size() <= limit_;
-  if (within_limit && text.size() >= longest_text_.size()) longest_text_ = text;
+  if (within_limit && text.size() > longest_text_.size()) longest_text_ = text;
   FitText();
 }
 
@@ -140,27 +125,33 @@ void TextField::UpdateTypingLimit(int present_length) {
   field.setCursorPosition(caret);
 }
 
-void TextField::SetSelStart(std::int64_t start) {
-  QLineEdit& field = FieldOf(*this);
-  field.deselect();
-  field.setCursorPosition(UnitsOf(field.text(), start));
-}
+bool TextField::HasFocus() const { return OwnerWindow().Focused() == this; }
 
-void TextField::SetSelLength(std::int64_t length) {
+void TextField::SetSelStart(std::int64_t start) { Select({start, 0}); }
+void TextField::SetSelLength(std::int64_t length) { Select({SelStart(), length}); }
+
+void TextField::Select(Selection selection) {
+  if (!HasFocus()) {
+    waiting_selection_ = selection;
+    return;
+  }
   QLineEdit& field = FieldOf(*this);
-  const std::int64_t start = SelStart();
-  const int begin = UnitsOf(field.text(), start);
-  const int end = UnitsOf(field.text(), start + length);
+  const int begin = UnitsOf(field.text(), selection.start);
+  const int end = UnitsOf(field.text(), selection.start + selection.length);
+  field.deselect();
+  field.setCursorPosition(begin);
   if (end > begin) field.setSelection(begin, end - begin);
 }
 
 std::int64_t TextField::SelStart() const {
+  if (waiting_selection_) return waiting_selection_->start;
   const QLineEdit& field = FieldOf(*this);
   const int start = field.hasSelectedText() ? field.selectionStart() : field.cursorPosition();
   return CharactersOf(field.text(), start);
 }
 
 std::int64_t TextField::SelLength() const {
+  if (waiting_selection_) return waiting_selection_->length;
   const QString selected = FieldOf(*this).selectedText();
   return CharactersOf(selected, static_cast<int>(selected.size()));
 }
@@ -180,21 +171,14 @@ void TextField::SetPassword(bool password) {
 }
 void TextField::SetBorder(bool border) { FieldOf(*this).setFrame(border); }
 
-void TextField::SetBackColor(Colour colour) {
-  SetRole(FieldOf(*this), QPalette::Base, colour);
-  FieldOf(*this).ShowSelection(OwnerWindow().Focused() == this);
-}
-
-void TextField::SetTextColor(Colour colour) {
-  SetRole(FieldOf(*this), QPalette::Text, colour);
-  FieldOf(*this).ShowSelection(OwnerWindow().Focused() == this);
-}
-
+void TextField::SetBackColor(Colour colour) { SetRole(FieldOf(*this), QPalette::Base, colour); }
+void TextField::SetTextColor(Colour colour) { SetRole(FieldOf(*this), QPalette::Text, colour); }
 void TextField::SetCueText(std::string_view text) { FieldOf(*this).setPlaceholderText(ToQt(text)); }
 
 int TextField::TextRoom() const { return FieldOf(*this).TextRoom(); }
 
 void TextField::FireGotFocus() {
+  if (const auto selection = std::exchange(waiting_selection_, std::nullopt)) Select(*selection);
   if (GotFocus) GotFocus(*this);
 }
 

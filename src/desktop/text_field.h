@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "desktop/control.h"
 
@@ -40,6 +41,7 @@ class TextField : public TextControl {
 
   void FireGotFocus() override;
   void FireLostFocus() override;
+  bool LosesFocusWithWindow() const override { return true; }
 
  protected:
   const PropertySetter* FindSetter(std::string_view name) const override;
@@ -49,7 +51,16 @@ class TextField : public TextControl {
  private:
   void UpdateTypingLimit(int present_length);
 
+  // A selection made while the field did not have the focus: it is seen when the focus comes.
+  struct Selection {
+    std::int64_t start;
+    std::int64_t length;
+  };
+  bool HasFocus() const;
+  void Select(Selection selection);
+
   int limit_ = 0;
+  std::optional<Selection> waiting_selection_;
   std::string longest_text_;  // of those within the limit that the program has written
 };
 

@@ -11,6 +11,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/runtime.h"
 #include "desktop/screen.h"
+#include "desktop/text_area.h"
 
 namespace fundlet {
 
@@ -158,7 +159,7 @@ void Window::Activated() {
 }
 
 void Window::Deactivated() {
-  if (focused_ != nullptr) FocusWent(*focused_);
+  if (focused_ != nullptr && focused_->LosesFocusWithWindow()) FocusWent(*focused_);
 }
 
 void Window::DialogClosed() {
@@ -188,8 +189,17 @@ void Window::FocusCameAgain(Control& control) {
 bool Window::AbleByItself(const MenuItem& item) const {
   if (!item.AutoEnable) return false;
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return true;
-  if (IsEditCommand(item.Name)) return CanEdit(item.Name, focused_);
+  if (IsEditCommand(item.Name)) return EditTarget(item.Name) != nullptr;
   return menu_handlers_.contains(item.Name);
+}
+
+// A text to read keeps its selection when the focus goes on to a button, and can still be copied.
+const Control* Window::EditTarget(const std::string& command) const {
+  if (CanEdit(command, focused_)) return focused_;
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
+    return dynamic_cast<TextArea*>(control.get()) != nullptr && CanEdit(command, control.get());
+  });
+  return found != controls_.end() ? found->get() : nullptr;
 }
 
 void Window::EnableMenuItems() {
@@ -213,7 +223,7 @@ void Window::Choose(MenuItem& item) {
   } else if (const auto handler = menu_handlers_.find(item.Name); handler != menu_handlers_.end()) {
     ProgramGate::Instance().Enter(item.Text, handler->second);
   } else if (IsEditCommand(item.Name)) {
-    Edit(item.Name, focused_);
+    Edit(item.Name, EditTarget(item.Name));
   }
 }
 

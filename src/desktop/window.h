@@ -109,6 +109,7 @@ class Window : public PropertyTarget {
   void FirstShow();
   Control* ApplyTabOrder();  // gives the first control of the order, null where there is none
   bool AbleByItself(const MenuItem& item) const;
+  const Control* EditTarget(const std::string& command) const;  // null where it can do nothing
 
   std::unique_ptr<NativeWindow> native_;
   std::vector<std::unique_ptr<Control>> controls_;

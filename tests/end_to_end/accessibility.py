@@ -1,0 +1,111 @@
+"""What a screen reader finds in the running program, and what it can do there."""
+
+import sys
+import time
+
+import pyatspi
+
+FIELDS = {  # the name of each field, the start of its description, and its text
+    "Start with 1 Jan:": ("Enter the year in which", None),
+    "Age on 1 Jan:": ("Enter your age in years (52-95)", "65"),
+    "Life Expectancy:": ("Enter the number of years (4-40)", "27"),
+    "COLA:": ("Enter your expected long-term", "2.0"),
+    "Initial Fundlet:  $": ("Enter the value of your fundlet at the beginning", "1,000,000"),
+    "After-Tax Fundlet APR:": ("Enter the after-tax annual percentage rate", "5.0"),
+    "Initial Social Security:  $": ("Enter the amount of after-tax social", "20,000"),
+    "Terminal Fundlet:  $": ("Enter the value of your fundlet that you wish", "100,000"),
+}
+BUTTONS = ["Calculate Annual Draw", "Save Schedule", "Remember Parameters", "Recall Paremeters"]
+COMMANDS = ["Save Schedule", "Remember Parameters", "Recall Parameters", "Quit", "About Fundlet…",
+            "Undo", "Cut", "Copy", "Paste", "Clear", "when 1/2 survive", "when 1/4 survive",
+            "when 1/8 survive", "Fundlet Help…"]
+
+
+def wait_for(what, found):
+    for _ in range(200):
+        try:
+            value = found()
+        except (LookupError, RuntimeError):
+            value = None
+        if value:
+            return value
+        time.sleep(0.05)
+    sys.exit(f"accessibility: {what}")
+
+
+def tree(node):
+    yield node
+    for child in node:
+        if child is not None:
+            yield from tree(child)
+
+
+def everything():
+    return [node for app in pyatspi.Registry.getDesktop(0)
+            if app is not None and app.name == "Fundlet" for node in tree(app)]
+
+
+def find(role, name):
+    return [node for node in everything() if node.getRoleName() == role and node.name == name]
+
+
+def text_of(node):
+    return node.queryText().getText(0, -1)
+
+
+def act(node, name):
+    actions = node.queryAction()
+    names = [actions.getName(i) for i in range(actions.nActions)]
+    if name not in names:
+        sys.exit(f"accessibility: {node.name} offers {names} and not {name}")
+    actions.doAction(names.index(name))
+
+
+def expect(what, condition):
+    if not condition:
+        sys.exit(f"accessibility: {what}")
+
+
+def result():
+    return [n.name for n in everything() if n.name.startswith("Initial Year Draw:")]
+
+
+wait_for("the program is not there", lambda: result() == ["Initial Year Draw:  $0"])
+
+for name, (description, text) in FIELDS.items():
+    fields = find("text", name)
+    expect(f"one field {name}", len(fields) == 1)
+    expect(f"description of {name}", fields[0].description.startswith(description))
+    expect(f"text of {name}", text is None or text_of(fields[0]) == text)
+    expect(f"{name} can be edited", fields[0].getState().contains(pyatspi.STATE_EDITABLE))
+for button in BUTTONS:
+    found = find("push button", button)
+    expect(f"one button {button}", len(found) == 1 and found[0].description)
+for command in COMMANDS:
+    expect(f"one command {command}", len(find("menu item", command)) == 1)
+expect("two rules", len([n for n in everything() if n.getRoleName() == "separator"
+                         and n.parent.getRoleName() == "filler"]) == 2)
+
+announced = []
+pyatspi.Registry.registerEventListener(lambda event: announced.append(event.any_data),
+                                       "object:property-change:accessible-name")
+act(find("push button", "Calculate Annual Draw")[0], "Press")
+wait_for("the result", lambda: result() == ["Initial Year Draw:  $73,325"])
+
+
+def heard():
+    pyatspi.Registry.pumpQueuedEvents()
+    return any("73,325" in str(text) for text in announced)
+
+
+wait_for("the result is not announced", heard)
+
+find("text", "Age on 1 Jan:")[0].queryEditableText().setTextContents("40")
+act(find("push button", "Calculate Annual Draw")[0], "Press")
+message = "Age must be at least 52 years old."
+wait_for("the alert cannot be read", lambda: find("label", message) or find("alert", message))
+act(wait_for("the alert has no button", lambda: find("push button", "OK"))[0], "Press")
+wait_for("the forced age", lambda: text_of(find("text", "Age on 1 Jan:")[0]) == "52")
+act(find("menu item", "when 1/2 survive")[0], "Press")
+wait_for("the menu command", lambda: text_of(find("text", "Life Expectancy:")[0]) == "28")
+act(find("menu item", "Quit")[0], "Press")
