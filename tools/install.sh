@@ -32,6 +32,8 @@ tests   x11-utils         xprop
 tests   fonts-dejavu-core -
 tests   fonts-liberation  -
 tests   fonts-noto-core   -
+fuzz    clang             clang++
+fuzz    libclang-rt-14-dev -
 lint    clang-format      clang-format
 lint    clang-tidy        clang-tidy
 lint    cppcheck          cppcheck

@@ -112,10 +112,11 @@ press alt+F4
 expect_end
 
 start_program
+type_text 2012
 press Return
 save_schedule again.txt
-expect 'first year after a second start' \
-  "2011${tab}60${tab}500,000${tab}131,468${tab}411,522${tab}61" \
+expect 'first year after a second start, with another year typed at once' \
+  "2012${tab}60${tab}500,000${tab}131,468${tab}411,522${tab}61" \
   "$(sed -n 11p "$folder/again.txt")"
 press ctrl+q
 expect_end
