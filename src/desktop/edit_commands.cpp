@@ -16,7 +16,10 @@ namespace fundlet {
 
 namespace {
 
-bool ClipboardHasText() { return QGuiApplication::clipboard()->mimeData()->hasText(); }
+bool ClipboardHasText() {
+  const QMimeData* held = QGuiApplication::clipboard()->mimeData();
+  return held != nullptr && held->hasText();
+}
 
 bool HasCopyable(const QLineEdit& field) {
   return field.hasSelectedText() && field.echoMode() == QLineEdit::Normal;
