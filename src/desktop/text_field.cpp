@@ -131,13 +131,14 @@ void TextField::SetSelStart(std::int64_t start) { Select({start, 0}); }
 void TextField::SetSelLength(std::int64_t length) { Select({SelStart(), length}); }
 
 void TextField::Select(Selection selection) {
-  if (!HasFocus()) {
-    waiting_selection_ = selection;
-    return;
-  }
   QLineEdit& field = FieldOf(*this);
   const int begin = UnitsOf(field.text(), selection.start);
   const int end = UnitsOf(field.text(), selection.start + selection.length);
+  if (!HasFocus()) {
+    const std::int64_t start = CharactersOf(field.text(), begin);
+    waiting_selection_ = {start, CharactersOf(field.text(), end) - start};
+    return;
+  }
   field.deselect();
   field.setCursorPosition(begin);
   if (end > begin) field.setSelection(begin, end - begin);

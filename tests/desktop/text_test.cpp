@@ -54,6 +54,8 @@ TEST_F(Selection, CountsACharacterBeyondTheFirstPlaneOnce) {
     EXPECT_EQ(control.SelLength(), 0);
   };
   check(Main().COLAField());
+  Main().COLAField().SetFocus();
+  check(Main().COLAField());
   Main().COLAField().SetSelStart(1);
   Main().COLAField().SetSelLength(1);
   EXPECT_EQ(Selected("COLAField"), "😀");
