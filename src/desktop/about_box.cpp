@@ -1,6 +1,7 @@
 #include "desktop/about_box.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QIcon>
 #include <QMessageBox>
 
@@ -13,6 +14,7 @@ namespace fundlet {
 namespace {
 
 constexpr int kPictureSize = 64;
+constexpr int kTextWidth = 160;
 
 }  // namespace
 
@@ -26,6 +28,9 @@ void ShowAboutBox() {
   box.setInformativeText("Version " + QApplication::applicationVersion());
   box.setIconPixmap(QApplication::windowIcon().pixmap(kPictureSize));
   box.addButton(QMessageBox::Ok);
+  // Wide enough for the title to be read.
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid != nullptr) grid->setColumnMinimumWidth(grid->columnCount() - 1, kTextWidth);
   ModalDialog::Run(box, window);
 }
 

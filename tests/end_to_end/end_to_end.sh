@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# The built program on a virtual screen, used by typed keys alone: end_to_end.sh PROGRAM
+# The built program on a virtual screen, used by typed keys alone: end_to_end.sh PROGRAM [PICTURES]
+# Leaves the pictures of the README in the folder PICTURES, where one is named.
 set -euo pipefail
 program=$1
+pictures=${2:-}
 here=$(dirname "$0")
 . "$here/../../tools/screen.sh"
 
@@ -66,6 +68,12 @@ save_schedule() {
   wait_for 20 test -s "$folder/$1" || wrong "no schedule in $1"
 }
 
+picture() { # NAME
+  [ -z "$pictures" ] && return
+  sleep 0.5
+  import -silent -frame -window "$(active_window)" "$pictures/$1"
+}
+
 trap close_screen EXIT
 open_screen 1024x640 || wrong 'the virtual screen did not open'
 folder=$screen_folder
@@ -82,10 +90,17 @@ nothing_drawn=$(result_picture)
 
 press Return
 wait_for 20 result_picture_is_not "$nothing_drawn" || wrong 'no result on the screen'
+picture window.png
 save_schedule default.txt
 expect 'lines' 37 "$(wc -l <"$folder/default.txt")"
 expect 'first year' "$year${tab}65${tab}1,000,000${tab}73,324${tab}996,598${tab}66" \
   "$(sed -n 11p "$folder/default.txt")"
+
+press ctrl+e
+wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'control-E opened no help'
+picture help.png
+press Return
+wait_for 20 is_active "$main" || wrong 'Return did not close the help'
 
 press ctrl+r
 wait_for 20 result_picture_is "$nothing_drawn" || wrong 'recalling did not clear the result'
@@ -93,6 +108,7 @@ type_fields 2010 70 4 2.5 500,000 5 20,000 100,000
 press Return
 save_schedule typed.txt
 diff "$here/typed_plan.txt" "$folder/typed.txt" || wrong 'schedule of the typed plan'
+"$here/spreadsheet.py" "$folder/typed.txt" || wrong 'the schedule in a spreadsheet program'
 press ctrl+p
 remembered=3f9999999999999a411e8480000000003fa999999999999a40d388000000000040f86a0000000000
 expect_parameters 'after remembering' "07da4604$remembered"
