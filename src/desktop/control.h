@@ -43,6 +43,10 @@ class Control : public PropertyTarget {
   // that of this one also where it has the focus already.
   void SetFocus();
 
+  // Whether a ring is drawn round the control while it has the focus.
+  bool UseFocusRing() const { return use_focus_ring_; }
+  void SetUseFocusRing(bool use) { use_focus_ring_ = use; }
+
   int TabIndex() const { return tab_index_; }
   QWidget* Native() const { return native_; }
 
@@ -72,6 +76,7 @@ class Control : public PropertyTarget {
   QWidget* native_;  // owned by the window's own widget
   std::string name_;
   int tab_index_ = 0;
+  bool use_focus_ring_ = true;
 };
 
 // The font of a control with a text: a family, or "System" for that of the desktop, and a size in

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPalette>
 #include <QWindow>
 
@@ -45,6 +46,29 @@ QPalette PaletteFor(const QColor& background) {
   return palette;
 }
 
+// The content area. It draws the ring round the control that has the focus, in the gap that the
+// layout leaves between the controls.
+class ContentWidget : public QWidget {
+ public:
+  explicit ContentWidget(const Window& window) : window_(window) {}
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    constexpr int kRingWidth = 2;
+    const Control* focused = window_.Focused();
+    if (focused == nullptr || !focused->UseFocusRing()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), kRingWidth));
+    const QRectF control = focused->Native()->geometry();
+    const double half = kRingWidth / 2.0;
+    painter.drawRoundedRect(control.adjusted(-half, -half, half, half), kRingWidth, kRingWidth);
+  }
+
+ private:
+  const Window& window_;
+};
+
 }  // namespace
 
 std::string KeyText(const QKeyEvent& event) {
@@ -59,7 +83,7 @@ NativeWindow::NativeWindow(Window& window) : window_(window) {
   setContextMenuPolicy(Qt::NoContextMenu);
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                  Qt::WindowSystemMenuHint);
-  setCentralWidget(new QWidget(this));
+  setCentralWidget(new ContentWidget(window));
   centralWidget()->installEventFilter(this);
 }
 

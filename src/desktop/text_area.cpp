@@ -133,7 +133,7 @@ const PropertySetter* TextArea::FindSetter(std::string_view name) const {
       PropertyRow{"Styled", kNoEffect<bool>},
       PropertyRow{"Text", SetThrough<&TextArea::SetText>::kFunction},
       PropertyRow{"TextColor", SetThrough<&TextArea::SetTextColor>::kFunction},
-      PropertyRow{"UseFocusRing", kNoEffect<bool>},
+      PropertyRow{"UseFocusRing", SetThrough<&Control::SetUseFocusRing>::kFunction},
   };
   const PropertySetter* own = FindIn(kRows, name);
   return own != nullptr ? own : TextControl::FindSetter(name);

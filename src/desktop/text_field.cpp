@@ -204,7 +204,7 @@ const PropertySetter* TextField::FindSetter(std::string_view name) const {
       PropertyRow{"ReadOnly", SetThrough<&TextField::SetReadOnly>::kFunction},
       PropertyRow{"Text", SetThrough<&TextField::SetText>::kFunction},
       PropertyRow{"TextColor", SetThrough<&TextField::SetTextColor>::kFunction},
-      PropertyRow{"UseFocusRing", kNoEffect<bool>},
+      PropertyRow{"UseFocusRing", SetThrough<&Control::SetUseFocusRing>::kFunction},
   };
   const PropertySetter* own = FindIn(kRows, name);
   return own != nullptr ? own : TextControl::FindSetter(name);

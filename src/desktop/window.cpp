@@ -170,6 +170,7 @@ void Window::DialogClosed() {
 void Window::FocusCame(Control& control) {
   if (focused_ == &control) return;
   Control* before = std::exchange(focused_, &control);
+  native_->Content().update();
   ProgramGate::Instance().EnterWithin("", [&] {
     if (before != nullptr) before->FireLostFocus();
     control.FireGotFocus();
@@ -179,6 +180,7 @@ void Window::FocusCame(Control& control) {
 void Window::FocusWent(Control& control) {
   if (focused_ != &control) return;
   focused_ = nullptr;
+  native_->Content().update();
   ProgramGate::Instance().EnterWithin("", [&] { control.FireLostFocus(); });
 }
 
