@@ -29,6 +29,7 @@ tests   desktop-file-utils desktop-file-validate
 tests   appstream         appstreamcli
 tests   man-db            man
 tests   x11-utils         xprop
+tests   strace            strace
 tests   fonts-dejavu-core -
 tests   fonts-liberation  -
 tests   fonts-noto-core   -
@@ -37,6 +38,7 @@ fuzz    libclang-rt-14-dev -
 lint    clang-format      clang-format
 lint    clang-tidy        clang-tidy
 lint    cppcheck          cppcheck
+coverage gcovr             gcovr
 bench   libbenchmark-dev  -
 bench   python3           python3
 TABLE

@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
-# The built program on a virtual screen, used by typed keys alone: end_to_end.sh PROGRAM [PICTURES]
+# The built program on a virtual screen, used by typed keys alone:
+# end_to_end.sh PROGRAM [PICTURES [LOCALE]]
 # Leaves the pictures of the README in the folder PICTURES, where one is named.
 set -euo pipefail
 program=$1
 pictures=${2:-}
+locale=${3:-}
 here=$(dirname "$0")
 . "$here/../../tools/screen.sh"
 
@@ -12,6 +14,12 @@ for command in Xvfb openbox xdotool import; do
   echo "Skipped: $command is not installed, and without it there is no virtual screen to work on."
   exit 77
 done
+# A locale that is not there would leave the program in the plain one, and this test without a point.
+if [ -n "$locale" ] && [ "$(LC_ALL=$locale locale decimal_point 2>&1)" != , ]; then
+  echo "Skipped: there is no locale $locale with a decimal comma."
+  exit 77
+fi
+[ -z "$locale" ] || export LC_ALL=$locale
 
 wrong() {
   echo "end_to_end: $*" >&2
@@ -52,6 +60,7 @@ expect_parameters() { # WHEN BYTES
 colour_at() {
   import -silent -window "$main" -crop "1x1+$1+$2" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}'
 }
+window_picture_is() { [ "$(import -silent -window "$main" rgb:- | cksum)" = "$1" ]; }
 result_picture() {
   import -silent -window "$main" -crop "212x20+490+$((137 + menu_bar))" rgb:- | cksum
 }
@@ -108,7 +117,7 @@ type_fields 2010 70 4 2.5 500,000 5 20,000 100,000
 press Return
 save_schedule typed.txt
 diff "$here/typed_plan.txt" "$folder/typed.txt" || wrong 'schedule of the typed plan'
-"$here/spreadsheet.py" "$folder/typed.txt" || wrong 'the schedule in a spreadsheet program'
+LC_ALL=C.UTF-8 "$here/spreadsheet.py" "$folder/typed.txt" || wrong 'the schedule in a spreadsheet program'
 press ctrl+p
 remembered=3f9999999999999a411e8480000000003fa999999999999a40d388000000000040f86a0000000000
 expect_parameters 'after remembering' "07da4604$remembered"
@@ -130,9 +139,21 @@ expect_end
 start_program
 type_text 2012
 press Return
+wait_for 20 result_picture_is_not "$nothing_drawn" || wrong 'no result after a second start'
+window_picture=$(import -silent -window "$main" rgb:- | cksum)
 save_schedule again.txt
 expect 'first year after a second start, with another year typed at once' \
   "2012${tab}60${tab}500,000${tab}131,468${tab}411,522${tab}61" \
   "$(sed -n 11p "$folder/again.txt")"
 press ctrl+q
 expect_end
+
+if [ -n "$locale" ]; then
+  export LC_ALL=C.UTF-8
+  start_program
+  type_text 2012
+  press Return
+  wait_for 20 window_picture_is "$window_picture" || wrong 'the locale shows in the window'
+  press ctrl+q
+  expect_end
+fi

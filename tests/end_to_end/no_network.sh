@@ -23,14 +23,14 @@ strace -o /dev/null true 2>/dev/null || skip 'no process may be watched here.'
 trap close_screen EXIT
 open_screen 1024x640 || wrong 'the virtual screen did not open'
 bus=$screen_folder/bus
-dbus-daemon --session --nofork --nopidfile --address="unix:path=$bus" &
+dbus-daemon --session --nofork --nopidfile --address="unix:path=$bus" 2>"$screen_folder/bus.log" &
 screen_processes+=($!)
 wait_for 20 test -S "$bus" || wrong 'the session bus did not start'
 export DBUS_SESSION_BUS_ADDRESS=unix:path=$bus
 
 calls=$screen_folder/calls
 # -D: the program keeps the process that is started here.
-strace -D -f -s 200 -e trace=socket,connect,sendto,sendmsg -o "$calls" "$program" &
+strace -D -f -s 200 -e trace=socket,connect -o "$calls" "$program" &
 process=$!
 screen_processes+=("$process")
 wait_for 60 other_window_of_is_active "$process" none || wrong 'the window did not open'
@@ -48,4 +48,9 @@ wait_for 20 test -s "$screen_folder/schedule.txt" || wrong 'no schedule'
 press ctrl+q
 wait "$process" || wrong "exit status $?"
 wait_for 20 grep -q "^$process .*exited with 0" "$calls" || wrong 'the end was not seen'
-cp "$calls" /tmp/e-calls
+
+allowed="sun_path=(@?\"/tmp/.X11-unix/X${DISPLAY#:}\"|\"$bus\")"
+grep -q "connect(.*$bus" "$calls" || wrong 'even the session bus was not seen'
+others=$(grep -E '(socket|connect)\(' "$calls" |
+  grep -vE "socket\(AF_UNIX,|connect\([0-9]+, \{sa_family=AF_UNIX, $allowed") || true
+[ -z "$others" ] || wrong "these are for others:"$'\n'"$others"
