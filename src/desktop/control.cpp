@@ -138,6 +138,7 @@ void TextControl::SetUnderline(bool underline) {
 }
 
 void TextControl::FitText() {
+  if (ApplyingSet()) return;
   QFont font(AvailableFamily(family_));
   font.setPixelSize(static_cast<int>(pixels_));
   font.setBold(bold_);

@@ -92,6 +92,7 @@ class TextControl : public Control {
  protected:
   using Control::Control;
   const PropertySetter* FindSetter(std::string_view name) const override;
+  void SetApplied() override { FitText(); }
   void FitText() override;
 
   // The widest text that must be seen whole, and the pixels it has.

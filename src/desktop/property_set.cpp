@@ -126,6 +126,7 @@ struct Applier {
 void PropertyTarget::_SetProperties(std::string_view set) {
   Remainder rest(set);
   std::string name;
+  applying_set_ = true;
   try {
     while (!rest.Empty()) {
       name.clear();
@@ -135,8 +136,11 @@ void PropertyTarget::_SetProperties(std::string_view set) {
       std::visit(Applier{*this, rest}, *setter);
     }
   } catch (const PropertyError& error) {
+    applying_set_ = false;
     throw PropertyError(Described() + ", property “" + name + "”: " + error.what());
   }
+  applying_set_ = false;
+  SetApplied();
 }
 
 }  // namespace fundlet

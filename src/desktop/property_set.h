@@ -68,6 +68,12 @@ class PropertyTarget {
   virtual std::string Described() const = 0;
   // The setter of a property; null where the object does not have it.
   virtual const PropertySetter* FindSetter(std::string_view name) const = 0;
+  // Whether a set is being applied, and what is to be done once when it has been.
+  bool ApplyingSet() const { return applying_set_; }
+  virtual void SetApplied() {}
+
+ private:
+  bool applying_set_ = false;
 };
 
 // The row of a table of properties that is set through a member function of its class.

@@ -1,0 +1,93 @@
+#include <cmath>
+#include <map>
+
+#include <QImage>
+#include <QPainter>
+
+#include "tests/ui/window_fixture.h"
+#include "ui/main_layout.h"
+
+namespace fundlet {
+namespace {
+
+double Luminance(QRgb colour) {
+  const auto part = [](int value) {
+    const double share = value / 255.0;
+    return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) + 0.0722 * part(qBlue(colour));
+}
+
+double Contrast(QRgb a, QRgb b) {
+  const auto [low, high] = std::minmax({Luminance(a), Luminance(b)});
+  return (high + 0.05) / (low + 0.05);
+}
+
+QImage Picture(QWidget& window, double scale) {
+  QImage image(window.size() * scale, QImage::Format_RGB32);
+  image.setDevicePixelRatio(scale);
+  window.render(&image);
+  return image;
+}
+
+// The contrast of what stands out most in a part of a picture to the colour that fills it.
+double ContrastIn(const QImage& picture, const QRect& part) {
+  std::map<QRgb, int> count;
+  const QRect pixels(part.topLeft() * picture.devicePixelRatio(),
+                     part.size() * picture.devicePixelRatio());
+  for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+    for (int x = pixels.left(); x <= pixels.right(); ++x) ++count[picture.pixel(x, y)];
+  }
+  const auto fill = std::max_element(
+      count.begin(), count.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+  double most = 1.0;
+  for (const auto& [colour, pixel_count] : count) {
+    most = std::max(most, Contrast(colour, fill->first));
+  }
+  return most;
+}
+
+class Legibility : public StartedTest {
+ protected:
+  // The inside of a control, without its frame.
+  static QRect Inside(QWidget& widget) {
+    QWidget& window = *widget.window();
+    return QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size()).adjusted(4, 3, -4, -3);
+  }
+  static void ExpectLegible(double scale) {
+    const QImage picture = Picture(*Found("CalculateButton").window(), scale);
+    for (const main_layout::ControlRow& row : main_layout::Controls()) {
+      if (row.text.empty()) continue;
+      QWidget& widget = *Main()._ControlByName(row.name).Native();
+      const double least = widget.isEnabled() ? 7.0 : 4.5;
+      EXPECT_GE(ContrastIn(picture, Inside(widget)), least) << row.name << " at " << scale;
+    }
+  }
+};
+
+TEST_F(Legibility, HoldsUnderAnyThemeAndScale) {
+  const QPalette light = QApplication::palette();
+  for (const QPalette& theme : {light, QPalette(QColor(40, 40, 44), QColor(25, 25, 28))}) {
+    QApplication::setPalette(theme);
+    user::Settle();
+    for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) ExpectLegible(scale);
+  }
+  QApplication::setPalette(light);
+}
+
+TEST_F(Legibility, OfTheFocusIsARingThatStandsOutAroundOneControl) {
+  for (const char* name : {"StartAgeField", "YearsLeftField", "EndFundletField", "SaveButton"}) {
+    while (FocusName() != name) user::Key(Qt::Key_Tab);
+    const QImage picture = Picture(*Found(name).window(), 1.0);
+    for (const main_layout::ControlRow& row : main_layout::Controls()) {
+      QWidget& widget = *Main()._ControlByName(row.name).Native();
+      if (widget.focusPolicy() == Qt::NoFocus) continue;
+      const QRect around(widget.mapTo(widget.window(), QPoint(0, 0)), widget.size());
+      const QRgb ring = picture.pixel(around.center().x(), around.top() - 1);
+      EXPECT_EQ(Contrast(ring, qRgb(0xCC, 0xFF, 0xCC)) >= 3.0, row.name == name) << row.name;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace fundlet
