@@ -4,6 +4,7 @@
 
 #include <QLabel>
 
+#include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 
 namespace fundlet {
@@ -37,11 +38,7 @@ void Label::SetTextAlign(std::int64_t align) {
   LabelOf(*this).setAlignment(HorizontalAlignment(align) | Qt::AlignVCenter);
 }
 
-void Label::SetTextColor(Colour colour) {
-  QPalette palette = LabelOf(*this).palette();
-  palette.setColor(QPalette::WindowText, QColor(colour.red, colour.green, colour.blue));
-  LabelOf(*this).setPalette(palette);
-}
+void Label::SetTextColor(Colour colour) { SetColour(LabelOf(*this), QPalette::WindowText, colour); }
 
 void Label::SetLabelFor(const Control& control) { LabelOf(*this).setBuddy(control.Native()); }
 

@@ -81,7 +81,8 @@ Selector sel_registerName(const char* name) {
 
 Id objc_msgSend(Id receiver, Selector message) {
   if (receiver == nullptr || message == nullptr) return nullptr;
-  return static_cast<Receiver*>(receiver)->answer(*static_cast<const std::string*>(message));
+  Id answer = static_cast<Receiver*>(receiver)->answer(*static_cast<const std::string*>(message));
+  return answer;
 }
 
 void* LoadFunctionPointerFromLibrary(const char* function, const char* library) {

@@ -8,6 +8,7 @@
 
 #include "desktop/focus_reporting.h"
 #include "desktop/native_window.h"
+#include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 
 namespace fundlet {
@@ -34,12 +35,6 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
 };
 
 AreaWidget& AreaOf(const Control& control) { return static_cast<AreaWidget&>(*control.Native()); }
-
-void SetRole(QWidget& widget, QPalette::ColorRole role, Colour colour) {
-  QPalette palette = widget.palette();
-  palette.setColor(role, QColor(colour.red, colour.green, colour.blue));
-  widget.setPalette(palette);
-}
 
 }  // namespace
 
@@ -104,8 +99,8 @@ void TextArea::SetBorder(bool border) {
   AreaOf(*this).setFrameShape(border ? QFrame::StyledPanel : QFrame::NoFrame);
 }
 
-void TextArea::SetBackColor(Colour colour) { SetRole(AreaOf(*this), QPalette::Base, colour); }
-void TextArea::SetTextColor(Colour colour) { SetRole(AreaOf(*this), QPalette::Text, colour); }
+void TextArea::SetBackColor(Colour colour) { SetColour(AreaOf(*this), QPalette::Base, colour); }
+void TextArea::SetTextColor(Colour colour) { SetColour(AreaOf(*this), QPalette::Text, colour); }
 
 void TextArea::FireGotFocus() {
   if (GotFocus) GotFocus(*this);

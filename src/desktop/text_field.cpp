@@ -11,6 +11,7 @@
 
 #include "desktop/focus_reporting.h"
 #include "desktop/native_window.h"
+#include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 #include "services/text.h"
 
@@ -83,12 +84,6 @@ Qt::Alignment HorizontalAlignment(std::int64_t alignment) {
   constexpr std::int64_t kRight = 3;
   if (alignment == kCentre) return Qt::AlignHCenter;
   return alignment == kRight ? Qt::AlignRight : Qt::AlignLeft;
-}
-
-void SetRole(QWidget& widget, QPalette::ColorRole role, Colour colour) {
-  QPalette palette = widget.palette();
-  palette.setColor(role, QColor(colour.red, colour.green, colour.blue));
-  widget.setPalette(palette);
 }
 
 }  // namespace
@@ -172,8 +167,8 @@ void TextField::SetPassword(bool password) {
 }
 void TextField::SetBorder(bool border) { FieldOf(*this).setFrame(border); }
 
-void TextField::SetBackColor(Colour colour) { SetRole(FieldOf(*this), QPalette::Base, colour); }
-void TextField::SetTextColor(Colour colour) { SetRole(FieldOf(*this), QPalette::Text, colour); }
+void TextField::SetBackColor(Colour colour) { SetColour(FieldOf(*this), QPalette::Base, colour); }
+void TextField::SetTextColor(Colour colour) { SetColour(FieldOf(*this), QPalette::Text, colour); }
 void TextField::SetCueText(std::string_view text) { FieldOf(*this).setPlaceholderText(ToQt(text)); }
 
 int TextField::TextRoom() const { return FieldOf(*this).TextRoom(); }
