@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # The built program on a virtual screen, used by typed keys alone:
-# end_to_end.sh PROGRAM [PICTURES [LOCALE]]
+# end_to_end.sh PROGRAM [LOCALE [PICTURES]]
 # Leaves the pictures of the README in the folder PICTURES, where one is named.
 set -euo pipefail
 program=$1
-pictures=${2:-}
-locale=${3:-}
+locale=${2:-}
+pictures=${3:-}
 here=$(dirname "$0")
 . "$here/../../tools/screen.sh"
 
