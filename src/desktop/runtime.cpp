@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QPixmapCache>
 
 #include "desktop/held_input.h"
 #include "desktop/program_gate.h"
@@ -18,9 +17,6 @@ namespace {
 Application* registered_application = nullptr;
 std::map<std::string, std::unique_ptr<Window>> implicit_instances;
 std::optional<int> end_status;  // once the end has been asked for
-
-// The style keeps pictures of each new window's buttons; so much is plenty for two windows.
-constexpr int kPictureCacheKilobytes = 1024;
 
 QIcon ProgramIcon() {
   QIcon icon;
@@ -93,7 +89,6 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName("fundlet");
   QApplication::setQuitOnLastWindowClosed(false);
-  QPixmapCache::setCacheLimit(kPictureCacheKilobytes);
   parts_->held_input = std::make_unique<HeldInput>();
   ProgramGate::Instance().Enter("Start", late);
 }

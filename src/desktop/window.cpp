@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QPixmapCache>
 
 #include "desktop/edit_commands.h"
 #include "desktop/native_window.h"
@@ -138,6 +139,8 @@ void Window::Close() {
   open_ = false;
   native_->hide();
   std::erase(Stack(), this);
+  // The style keeps pictures of this window's controls under names that no later window has.
+  QPixmapCache::clear();
   ProgramGate::Instance().EnterWithin("", [this] { Event_Close(); });
 }
 
