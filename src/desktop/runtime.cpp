@@ -1,14 +1,19 @@
 #include "desktop/runtime.h"
 
+#include <chrono>
 #include <map>
 #include <optional>
+#include <thread>
 #include <utility>
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QIcon>
+#include <QTimer>
 
 #include "desktop/held_input.h"
 #include "desktop/program_gate.h"
+#include "desktop/program_style.h"
 
 namespace fundlet {
 
@@ -17,6 +22,9 @@ namespace {
 Application* registered_application = nullptr;
 std::map<std::string, std::unique_ptr<Window>> implicit_instances;
 std::optional<int> end_status;  // once the end has been asked for
+
+// The icon is read when the first window has been painted: nobody is to wait for it.
+constexpr std::chrono::milliseconds kIconDelay(50);
 
 QIcon ProgramIcon() {
   QIcon icon;
@@ -63,6 +71,7 @@ struct Runtime::Parts {
   int argument_count = 1;
   char* arguments[2] = {program.data(), nullptr};
   std::unique_ptr<QApplication> toolkit;
+  std::jthread font_search;
   std::unique_ptr<HeldInput> held_input;
 };
 
@@ -81,14 +90,17 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   early();
 #ifdef Q_OS_LINUX
   // The style whose controls fit the heights of the layout.
-  QApplication::setStyle("Fusion");
+  QApplication::setStyle(new ProgramStyle);
 #endif
   parts_->toolkit = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
+  // Reading what fonts there are takes a good part of the opening, so it begins at once.
+  parts_->font_search = std::jthread([] { QFontDatabase::families(); });
   QApplication::setApplicationName("Fundlet");
   QApplication::setApplicationVersion("5");
-  QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName("fundlet");
   QApplication::setQuitOnLastWindowClosed(false);
+  QTimer::singleShot(kIconDelay, parts_->toolkit.get(),
+                     [] { QApplication::setWindowIcon(ProgramIcon()); });
   parts_->held_input = std::make_unique<HeldInput>();
   ProgramGate::Instance().Enter("Start", late);
 }

@@ -105,7 +105,8 @@ void TextField::SetText(std::string_view text) {
   FieldOf(*this).setText(shown);
   waiting_selection_.reset();
   const bool within_limit = limit_ == 0 || shown.size() <= limit_;
-  if (within_limit && text.size() > longest_text_.size()) longest_text_ = text;
+  if (!within_limit || text.size() <= longest_text_.size()) return;
+  longest_text_ = text;
   FitText();
 }
 

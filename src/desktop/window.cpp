@@ -139,8 +139,6 @@ void Window::Close() {
   open_ = false;
   native_->hide();
   std::erase(Stack(), this);
-  // The style keeps pictures of this window's controls under names that no later window has.
-  QPixmapCache::clear();
   ProgramGate::Instance().EnterWithin("", [this] { Event_Close(); });
 }
 

@@ -1,0 +1,50 @@
+#include "desktop/program_style.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <QStyleOption>
+
+namespace fundlet {
+
+namespace {
+
+// The first palette drawn with that equals the given one.
+const QPalette& OneOf(const QPalette& palette) {
+  static std::vector<QPalette> different;
+  const auto found = std::find(different.begin(), different.end(), palette);
+  return found != different.end() ? *found : different.emplace_back(palette);
+}
+
+template <typename Option>
+Option WithOnePalette(const Option& option) {
+  Option changed(option);
+  changed.palette = OneOf(option.palette);
+  return changed;
+}
+
+}  // namespace
+
+ProgramStyle::ProgramStyle() : QProxyStyle("Fusion") {}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
+  if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+    const QStyleOptionButton changed = WithOnePalette(*button);
+    QProxyStyle::drawPrimitive(element, &changed, painter, widget);
+    return;
+  }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+  if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
+    const QStyleOptionSlider changed = WithOnePalette(*bar);
+    QProxyStyle::drawComplexControl(control, &changed, painter, widget);
+    return;
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+}  // namespace fundlet
