@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include <QApplication>
+#include <QIconEngine>
+#include <QPainter>
 #include <QStyleOption>
 
 namespace fundlet {
@@ -22,6 +25,26 @@ Option WithOnePalette(const Option& option) {
   changed.palette = OneOf(option.palette);
   return changed;
 }
+
+// An arrow that points to what there was no room for.
+class ArrowIcon : public QIconEngine {
+ public:
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap drawn(size);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    paint(&painter, drawn.rect(), mode, state);
+    return drawn;
+  }
+  void paint(QPainter* painter, const QRect& area, QIcon::Mode /*mode*/,
+             QIcon::State /*state*/) override {
+    QStyleOption option;
+    option.rect = area;
+    option.palette = QGuiApplication::palette();
+    QApplication::style()->drawPrimitive(QStyle::PE_IndicatorArrowRight, &option, painter);
+  }
+  QIconEngine* clone() const override { return new ArrowIcon(*this); }
+};
 
 }  // namespace
 
@@ -45,6 +68,12 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
     return;
   }
   QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                                 const QWidget* widget) const {
+  if (picture == SP_ToolBarHorizontalExtensionButton) return QIcon(new ArrowIcon);
+  return QProxyStyle::standardIcon(picture, option, widget);
 }
 
 }  // namespace fundlet

@@ -4,18 +4,23 @@
 
 namespace fundlet {
 
-// The style of the program where the desktop has none of its own. The toolkit keeps what it has
-// drawn under names in which the identity of the palette has a part, every window has a palette of
-// another identity, and the names are kept for ever. Here equal palettes are one, so that a window
-// opened again and again takes no more memory.
+// The style of the program where the desktop has none of its own.
 class ProgramStyle : public QProxyStyle {
  public:
   ProgramStyle();
 
+  // The toolkit keeps what it has drawn under names in which the identity of the palette has a
+  // part, every window has a palette of another identity, and the names are kept for ever. Here
+  // equal palettes are one, so that a window opened again and again takes no more memory.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
+
+  // The toolkit's picture for a menu bar without room is a file, and reading any such file loads
+  // its plug-ins for pictures, which the opening would wait for.
+  QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                     const QWidget* widget) const override;
 };
 
 }  // namespace fundlet
