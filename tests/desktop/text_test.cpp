@@ -1,7 +1,5 @@
 #include <QClipboard>
-#include <QFontMetricsF>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
 #include <QToolTip>
 
@@ -10,14 +8,12 @@
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
 #include "ui/help_window.h"
-#include "ui/main_layout.h"
 
 namespace fundlet {
 namespace {
 
 using FieldLimit = StartedTest;
 using Selection = StartedTest;
-using TextRoom = FundletTest;
 using ToolTip = StartedTest;
 
 TEST_F(FieldLimit, HoldsForTypingAndPastingButNotForTheProgram) {
@@ -61,40 +57,6 @@ TEST_F(Selection, CountsACharacterBeyondTheFirstPlaneOnce) {
   EXPECT_EQ(Selected("COLAField"), "😀");
   user::Key(Qt::Key_F1);
   check(GlobalModule::HelpWindow->TextField());
-}
-
-// Both ends of the text are inside the field's frame at once.
-void ExpectSeenWhole(QLineEdit& field) {
-  field.setFocus();
-  field.selectAll();
-  field.grab();  // the text is scrolled when it is painted
-  const QPoint start = field.inputMethodQuery(Qt::ImAnchorRectangle).toRect().center();
-  const QPoint end = field.inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
-  EXPECT_GE(start.x(), 1);
-  EXPECT_LE(end.x(), field.width() - 1);
-  EXPECT_GT(end.x(), start.x());
-}
-
-TEST_F(TextRoom, EveryTextIsSeenWholeInAnySystemFont) {
-  for (const char* family : {"DejaVu Sans", "Liberation Sans", "Noto Sans"}) {
-    Start(family);
-    Main().AnnualDrawField().SetText("Initial Year Draw:  $9,999,999,999");
-    for (const main_layout::ControlRow& row : main_layout::Controls()) {
-      SCOPED_TRACE(std::string(family) + " " + std::string(row.name));
-      QWidget& widget = *Main()._ControlByName(row.name).Native();
-      const QString text = QString::fromUtf8(row.text.data(), static_cast<int>(row.text.size()));
-      if (auto* field = qobject_cast<QLineEdit*>(&widget)) {
-        Main().ControlOf<TextField>(row.name).SetText(row.text);
-        ExpectSeenWhole(*field);
-        continue;
-      }
-      if (!text.isEmpty()) {
-        EXPECT_EQ(QFontInfo(widget.font()).family(), family);
-      }
-      EXPECT_LE(QFontMetricsF(widget.font()).horizontalAdvance(text), widget.width());
-    }
-    EndProgram();
-  }
 }
 
 TEST_F(ToolTip, WrapsAndShowsOnADimmedButtonToo) {

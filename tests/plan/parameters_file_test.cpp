@@ -1,13 +1,10 @@
 #include "plan/parameters_file.h"
 
 #include <chrono>
-#include <random>
 
 #include <gtest/gtest.h>
 
 #include "plan/entry_fields.h"
-#include "plan/validation.h"
-#include "tests/plan/text_form.h"
 #include "tests/services/scratch_folder.h"
 
 namespace fundlet {
@@ -98,22 +95,6 @@ TEST(StartParameters, StartsWithTheDefaultsWhereTheFileCannotBeMade) {
     EXPECT_EQ(AlertsOfStart(plan), kBusy) << place;
     EXPECT_EQ(plan.StartAge, 65);
     EXPECT_EQ(plan.EndFundlet, 100000);
-  }
-}
-
-TEST(StartParameters, TakesAnyFortyFourBytes) {
-  const ScratchFolder folder;
-  std::mt19937 random(7);
-  for (int count = 0; count < 200; ++count) {
-    std::string bytes(44, '\0');
-    for (char& byte : bytes) byte = static_cast<char>(random() % 8 == 0 ? 0xFF : random());
-    folder.Write(kParametersFileName, bytes);
-    Plan plan;
-    EXPECT_EQ(AlertsOfStart(plan), Texts());
-    TextForm form;
-    DisplayParameters(plan, form);
-    ErrorDetected(plan, form);
-    EXPECT_EQ(folder.Read(kParametersFileName), bytes);
   }
 }
 

@@ -13,54 +13,32 @@ namespace {
 using Validation = StartedTest;
 using Fields = StartedTest;
 
-struct Refusal {
-  const char* field;
-  const char* typed;
-  const char* message;
-  const char* forced;
-  const char* other_field = nullptr;  // filled first
-  const char* other_text = nullptr;
-};
-
-constexpr Refusal kRefusals[] = {
-    {"StartYearField", "-1", "Start year must be at least 0.", "0"},
-    {"StartAgeField", "51", "Age must be at least 52 years old.", "52"},
-    {"StartAgeField", "96", "Age must be no more than 95 years old.", "95"},
-    {"YearsLeftField", "3", "Life expectancy must be at least 4 years.", "4"},
-    {"YearsLeftField", "41", "Life expectancy must be no more than 40 years.", "40"},
-    {"YearsLeftField", "40", "Age plus life expectancy must be less than 100 years.", "39",
-     "StartAgeField", "60"},
-    {"COLAField", "-0.01", "COLA (Annual Cost of Living Adjustment) must be at least 0%.", "0.0"},
-    {"COLAField", "100", "COLA (Annual Cost of Living Adjustment) must be less than 100%.",
-     "99.99"},
-    {"StartFundletField", "-1", "Initial fundlet must be at least $0.", "0"},
-    {"StartFundletField", "1e9", "Initial fundlet must be at less than $1 billion.", "999,999,999"},
-    {"FundletAPRField", "-0.01", "After-tax fundlet APR must be at least 0%.", "0.0"},
-    {"FundletAPRField", "100", "After-tax fundlet APR must be less than 100%.", "99.99"},
-    {"SocialSecurityField", "-1", "Annual social secuity must be at least $0.", "0"},
-    {"SocialSecurityField", "100000", "Annual social secuity must be at less than $100,000.",
-     "99,999"},
-    {"EndFundletField", "-1", "Terminal fundlet must be at least $0.", "0"},
-    {"EndFundletField", "1000001", "Terminal fundlet must be no more than the initial fundlet.",
-     "0"},
-};
-
 TEST_F(Validation, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
-  const Answer answers[] = {ByKey(Qt::Key_Escape), ByKey(Qt::Key_Return), ByButton(), ByCloseBox()};
-  for (const Refusal& refusal : kRefusals) {
-    for (const Answer& answer : answers) {
-      SCOPED_TRACE(refusal.message);
-      user::Key(Qt::Key_R, Qt::ControlModifier);
-      if (refusal.other_field != nullptr) Fill(refusal.other_field, refusal.other_text);
-      Fill(refusal.field, refusal.typed);
-      ExpectDialog(answer);
-      Calculate();
-      EXPECT_EQ(TakeDialogs(), std::vector<std::string>{refusal.message});
-      EXPECT_EQ(FocusName(), refusal.field);
-      EXPECT_EQ(Text(refusal.field), refusal.forced);
-      EXPECT_EQ(Selected(refusal.field), refusal.forced);
-      EXPECT_EQ(Result(), "Initial Year Draw:  $0");
-    }
+  Fill("StartAgeField", "60");
+  user::Key(Qt::Key_P, Qt::ControlModifier);
+  const struct {
+    const char *field, *typed, *message, *forced;
+    Answer answer;
+  } refusals[] = {
+      {"StartAgeField", "51", "Age must be at least 52 years old.", "52", ByKey(Qt::Key_Escape)},
+      {"YearsLeftField", "40", "Age plus life expectancy must be less than 100 years.", "39",
+       ByKey(Qt::Key_Return)},
+      {"COLAField", "100", "COLA (Annual Cost of Living Adjustment) must be less than 100%.",
+       "99.99", ByButton()},
+      {"EndFundletField", "1000001", "Terminal fundlet must be no more than the initial fundlet.",
+       "0", ByCloseBox()},
+  };
+  for (const auto& [field, typed, message, forced, answer] : refusals) {
+    SCOPED_TRACE(message);
+    user::Key(Qt::Key_R, Qt::ControlModifier);
+    Fill(field, typed);
+    ExpectDialog(answer);
+    Calculate();
+    EXPECT_EQ(TakeDialogs(), std::vector<std::string>{message});
+    EXPECT_EQ(FocusName(), field);
+    EXPECT_EQ(Text(field), forced);
+    EXPECT_EQ(Selected(field), forced);
+    EXPECT_EQ(Result(), "Initial Year Draw:  $0");
   }
 }
 
@@ -92,23 +70,13 @@ TEST_F(Fields, LeavingAFieldShowsWhatItsTextWasReadAs) {
     const char *field, *typed, *shown;
   } cases[] = {
       {"StartYearField", "", "0"},
-      {"StartYearField", "1,23", "1"},
       {"StartYearField", "19.9", "19"},
-      {"StartYearField", "-0.5", "0"},
-      {"StartAgeField", "3x", "3"},
-      {"StartAgeField", " 7", "7"},
       {"YearsLeftField", "x", "0"},
-      {"YearsLeftField", "99", "99"},
-      {"COLAField", "", "0.0"},
-      {"COLAField", "1,5", "1.0"},
-      {"COLAField", "100", "100.0"},
       {"COLAField", "3.456", "3.46"},
       {"FundletAPRField", "3.125", "3.13"},
-      {"FundletAPRField", "..5", "0.0"},
       {"StartFundletField", "1,234.56", "1,235"},
       {"StartFundletField", "9999999999", "9,999,999,999"},
       {"SocialSecurityField", "1,2,3", "123"},
-      {"SocialSecurityField", "", "0"},
       {"EndFundletField", "1e3", "1,000"},
   };
   for (const auto& [field, typed, shown] : cases) {

@@ -1,7 +1,9 @@
 #include <cmath>
 #include <map>
 
+#include <QFontInfo>
 #include <QImage>
+#include <QLabel>
 #include <QPainter>
 
 #include "tests/ui/window_fixture.h"
@@ -9,6 +11,8 @@
 
 namespace fundlet {
 namespace {
+
+constexpr double kScales[] = {1.0, 1.25, 1.5, 2.0, 3.0};
 
 double Luminance(QRgb colour) {
   const auto part = [](int value) {
@@ -47,6 +51,51 @@ double ContrastIn(const QImage& picture, const QRect& part) {
   return most;
 }
 
+// The width and height in pixels of the text of a widget, seen with more room than it needs.
+QSize TextSize(QWidget& widget, int frame, double scale) {
+  const QSize before = widget.size();
+  widget.setFixedSize(before + QSize(80, 20));
+  const QImage picture = Picture(widget, scale);
+  QRect text;
+  const QRect inside = picture.rect().marginsRemoved(QMargins() + static_cast<int>(frame * scale));
+  const QRgb fill = picture.pixel(inside.bottomRight());
+  for (int y = inside.top(); y <= inside.bottom(); ++y) {
+    for (int x = inside.left(); x <= inside.right(); ++x) {
+      if (Contrast(picture.pixel(x, y), fill) > 1.5) text |= QRect(x, y, 1, 1);
+    }
+  }
+  widget.setFixedSize(before);
+  return text.size();
+}
+
+using TextRoom = FundletTest;
+
+TEST_F(TextRoom, IsEnoughForEveryTextInAnySystemFontAndScale) {
+  for (const char* family : {"DejaVu Sans", "Liberation Sans", "Noto Sans"}) {
+    Start(family);
+    Main().ClearFocus();
+    EXPECT_EQ(QFontInfo(Found("CalculateButton").font()).family(), family);
+    for (const main_layout::ControlRow& row : main_layout::Controls()) {
+      if (row.text.empty()) continue;
+      QWidget& widget = *Main()._ControlByName(row.name).Native();
+      const int frame = qobject_cast<QLabel*>(&widget) != nullptr ? 0 : 3;
+      if (frame != 0) widget.setProperty("text", QString::fromUtf8(row.text.data()));
+      if (row.name == "AnnualDrawField") {
+        Main().AnnualDrawField().SetText("Initial Year Draw:  $9,999,999,999");
+      }
+      for (const double scale : kScales) {
+        const QSize text = TextSize(widget, frame, scale);
+        const QSize room = (widget.size() - 2 * QSize(frame, frame)) * scale;
+        EXPECT_TRUE(text.width() > 0 && text.width() <= room.width() &&
+                    text.height() <= room.height())
+            << family << ", " << row.name << " at " << scale << ": " << text.width() << " by "
+            << text.height() << " in " << room.width() << " by " << room.height();
+      }
+    }
+    EndProgram();
+  }
+}
+
 class Legibility : public StartedTest {
  protected:
   // The inside of a control, without its frame.
@@ -70,7 +119,7 @@ TEST_F(Legibility, HoldsUnderAnyThemeAndScale) {
   for (const QPalette& theme : {light, QPalette(QColor(40, 40, 44), QColor(25, 25, 28))}) {
     QApplication::setPalette(theme);
     user::Settle();
-    for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) ExpectLegible(scale);
+    for (const double scale : kScales) ExpectLegible(scale);
   }
   QApplication::setPalette(light);
 }
