@@ -12,8 +12,7 @@ constexpr int kFirstYearOfTm = 1900;
 
 Date::Date() {
   const std::time_t now = std::time(nullptr);
-  const std::tm* local = std::localtime(&now);
-  year_ = kFirstYearOfTm + (local != nullptr ? local->tm_year : 0);
+  year_ = kFirstYearOfTm + std::localtime(&now)->tm_year;
 }
 
 }  // namespace fundlet

@@ -44,21 +44,9 @@ constexpr Reason kReasons[] = {
     {EINVAL, "its name is not allowed here"},
 };
 
-std::string_view ActionText(FileAction action) {
-  switch (action) {
-    case FileAction::Open:
-      return "opened";
-    case FileAction::Create:
-      return "created";
-    case FileAction::Read:
-      return "read";
-    case FileAction::Write:
-      return "written";
-    case FileAction::Close:
-      return "written to the end";
-  }
-  return "used";
-}
+// By action, in the order of their declaration.
+constexpr std::string_view kActionTexts[] = {"opened", "created", "read", "written",
+                                             "written to the end"};
 
 }  // namespace
 
@@ -77,7 +65,8 @@ std::string PathText(const std::filesystem::path& path) {
 
 IOException::IOException(FileAction action, const std::filesystem::path& file, int error_number)
     : RuntimeException("File “" + PathText(file) + "” could not be " +
-                       std::string(ActionText(action)) + ": " + ReasonText(error_number) + "."),
+                       std::string(kActionTexts[static_cast<std::size_t>(action)]) + ": " +
+                       ReasonText(error_number) + "."),
       error_number_(error_number) {}
 
 }  // namespace fundlet

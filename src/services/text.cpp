@@ -75,7 +75,7 @@ double Val(std::string_view text) {
   const char* begin = scanned.number.data();
   const auto [end, error] = std::from_chars(begin, begin + scanned.number.size(), value);
   if (error != std::errc{}) {
-    const bool too_large = scanned.nonzero && scanned.magnitude > 0;
+    const bool too_large = scanned.magnitude > 0;
     value = too_large ? std::numeric_limits<double>::infinity() : 0.0;
   }
   return scanned.negative ? -value : value;

@@ -70,6 +70,7 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
     }
   }
   EXPECT_EQ(folder.Read("short"), "abc");
+  EXPECT_NO_THROW(make_new(folder.Item("new")));
   EXPECT_THROW(TextOutputStream::Create(std::nullopt), NilObjectException);
 }
 

@@ -71,10 +71,18 @@ TEST(Val, IsRoundedCorrectlyFromTheLeastNumberToTheGreatest) {
 
 TEST(Len, CountsCharactersAndEachInvalidByteAsOne) {
   EXPECT_EQ(Chr(9) + Chr(0xE9) + Chr(0x20AC) + Chr(0x1F600) + Chr(0xD800), "\té€😀\uFFFD");
+  EXPECT_EQ(Chr(0x110000), Chr(0xFFFD));
   EXPECT_EQ(Len("\té€😀\uFFFD"), 5U);
-  EXPECT_EQ(Len("\xE2\x82"), 2U) << "a character cut short";
-  EXPECT_EQ(Len("\xC0\xAF\xE0\x80\x80"), 5U) << "longer forms than needed";
+  EXPECT_EQ(Len("\u0800\uD55C\U0010FFFF"), 3U);
+  EXPECT_EQ(Len("\xE2(\xE2\xC2\xA1\xE2\x82"), 6U) << "characters cut short";
+  EXPECT_EQ(Len("\xC0\xAF\xE0\x80\x80\xF0\x80\x80\x80"), 9U) << "longer forms than needed";
   EXPECT_EQ(Len("\xED\xA0\x80\xF4\x90\x80\x80\377"), 8U) << "code points that are none";
+}
+
+TEST(ReplaceAll, ReplacesFromTheLeftAndNothingWhereThereIsNothingToFind) {
+  EXPECT_EQ(ReplaceAll("aaab", "aa", "a"), "aab");
+  EXPECT_EQ(ReplaceAll("1,2,", ",", ""), "12");
+  EXPECT_EQ(ReplaceAll("ab", "", "x"), "ab");
 }
 
 TEST(Truncated, GoesTowardZeroAndGivesTheLowestForWhatDoesNotFit) {
