@@ -1,11 +1,17 @@
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWindow>
 #include <benchmark/benchmark.h>
 
 #include "app/my_application.h"
 #include "bench/bare_solve.h"
+#include "desktop/native_window.h"
 #include "services/format.h"
 #include "services/text.h"
 #include "ui/main_window.h"
@@ -39,16 +45,43 @@ void Bare(benchmark::State& state) {
   CountMonths(state, TheLongPlan(), solve.levels);
 }
 
-// A press of the button in the open window: the reading of the fields, the solve with its yields,
-// the busy wheel, and the result on the screen.
+void Key(aFundletWindow& window, Qt::Key key) {
+  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+  QCoreApplication::sendEvent(window.Native().windowHandle(), &press);
+}
+
+// From the key stroke in the open window to the painted result: the reading of the fields, the
+// solve with its yields, the busy wheel, and all that the toolkit then has to do.
 void Press(benchmark::State& state) {
   aFundletWindow& window = aFundletWindow::Instance();
   TypeIn(window, TheLongPlan());
-  for (auto _ : state) window.CalculateButton().Press();
+  for (auto _ : state) {
+    Key(window, Qt::Key_Return);
+    QCoreApplication::processEvents();
+  }
   BareSolve bare;
   bare.Run(TheLongPlan());
   if (window.ThePlan().AnnualDraw != bare.draw) state.SkipWithError("another draw");
   CountMonths(state, TheLongPlan(), bare.levels);
+}
+
+// The time from an Escape, in the middle of a solve that would go on to the limit, until the
+// computation has ended and the button can be pressed again.
+void AnswerToEscape(benchmark::State& state) {
+  aFundletWindow& window = aFundletWindow::Instance();
+  Plan endless = TheLongPlan();
+  endless.FundletAPR = 0.08;
+  TypeIn(window, endless);
+  static int run = 0;
+  const std::chrono::milliseconds wait(40 + 7 * ++run);
+  for (auto _ : state) {
+    const auto due = std::chrono::steady_clock::now() + wait;
+    QTimer::singleShot(wait, Qt::PreciseTimer, [&window] { Key(window, Qt::Key_Escape); });
+    Key(window, Qt::Key_Return);
+    const std::chrono::duration<double> answer = std::chrono::steady_clock::now() - due;
+    if (answer.count() < 0) state.SkipWithError("the solve had ended before");
+    state.SetIterationTime(answer.count());
+  }
 }
 
 void UseFreshHome() {
@@ -70,6 +103,10 @@ int main(int argc, char** argv) {
   benchmark::RegisterBenchmark("bare/press", &fundlet::bench::Bare)->Unit(benchmark::kMillisecond);
   benchmark::RegisterBenchmark("window/press", &fundlet::bench::Press)
       ->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("escape/answer", &fundlet::bench::AnswerToEscape)
+      ->Unit(benchmark::kMillisecond)
+      ->Iterations(1)
+      ->UseManualTime();
   benchmark::RunSpecifiedBenchmarks();
   std::filesystem::remove_all(std::getenv("XDG_CONFIG_HOME"));
 }

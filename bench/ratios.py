@@ -14,7 +14,7 @@ def solves(path):
             continue
         if run.get("error_occurred"):
             sys.exit(f"{run['run_name']}: {run['error_message']}")
-        kind, plan = run["run_name"].split("/", 1)
+        kind, plan = run["run_name"].split("/")[:2]
         found.setdefault(plan, {}).setdefault(kind, []).append(run)
     return found
 
@@ -25,6 +25,8 @@ def median(runs, what):
 
 def rows(path):
     for plan, kinds in solves(path).items():
+        if "bare" not in kinds:
+            continue
         bare = median(kinds["bare"], "cpu_time")
         for kind in kinds.keys() - {"bare"}:
             time = median(kinds[kind], "cpu_time")
@@ -38,3 +40,8 @@ print(f"{'plan':20}{'levels':>8}{'bare':>11}  {'':7}{'measured':>11}{'ns/month':
 for json_path in sys.argv[1:]:
     for _, row in sorted(rows(json_path)):
         print(row)
+for json_path in sys.argv[1:]:
+    for answer in solves(json_path).get("answer", {}).values():
+        times = [run["real_time"] for run in answer]
+        print(f"Escape in the middle of a solve: {statistics.median(times):.1f} ms to the answer, "
+              f"{max(times):.1f} ms at the most, of {len(times)}.")
