@@ -1,9 +1,9 @@
 #include "desktop/runtime.h"
 
 #include <chrono>
+#include <future>
 #include <map>
 #include <optional>
-#include <thread>
 #include <utility>
 
 #include <QApplication>
@@ -71,7 +71,7 @@ struct Runtime::Parts {
   int argument_count = 1;
   char* arguments[2] = {program.data(), nullptr};
   std::unique_ptr<QApplication> toolkit;
-  std::jthread font_search;
+  std::future<void> font_search;  // waits for its end when it goes
   std::unique_ptr<HeldInput> held_input;
 };
 
@@ -94,7 +94,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
 #endif
   parts_->toolkit = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
   // Reading what fonts there are takes a good part of the opening, so it begins at once.
-  parts_->font_search = std::jthread([] { QFontDatabase::families(); });
+  parts_->font_search = std::async([] { QFontDatabase::families(); });
   QApplication::setApplicationName("Fundlet");
   QApplication::setApplicationVersion("5");
   QApplication::setDesktopFileName("fundlet");
