@@ -17,7 +17,7 @@ screen  openbox           openbox
 screen  xdotool           xdotool
 screen  imagemagick       import
 tests   libgtest-dev      -
-tests   locales           localedef
+tests   locales           -
 tests   dbus              dbus-run-session
 tests   at-spi2-core      -
 tests   python3-pyatspi   -

@@ -8,8 +8,12 @@ namespace fundlet {
 
 void MyApplication::_EarlyStartup() {
   _SetSupportsHiDPI(true);
+  _NewAppInstance();
+}
+
+void MyApplication::_NewAppInstance() {
   static MyApplication application;
-  application.Menus = &DefaultMenu::Instance();
+  application.MenuBar = &DefaultMenu::Instance();
   RegisterApplication(application);
 }
 

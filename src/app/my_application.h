@@ -13,6 +13,7 @@ class MyApplication : public Application {
   static void _LateStartup();
 
  private:
+  static void _NewAppInstance();
   static void _MakeDefaultView();
 };
 

@@ -46,10 +46,12 @@ void Control::SetHelpTag(std::string_view text) {
 }
 
 void Control::Refresh(bool at_once) {
+  // What a hidden control has left is the parent's to paint over.
+  QWidget& painted = native_->isHidden() ? *native_->parentWidget() : *native_;
   if (at_once) {
-    native_->repaint();
+    painted.repaint();
   } else {
-    native_->update();
+    painted.update();
   }
 }
 

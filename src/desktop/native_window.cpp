@@ -1,6 +1,7 @@
 #include "desktop/native_window.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
@@ -68,6 +69,14 @@ class ContentWidget : public QWidget {
  private:
   const Window& window_;
 };
+
+void ReadProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 64, 128}) {
+    icon.addFile(QString(":/fundlet/fundlet-%1.png").arg(size), QSize(size, size));
+  }
+  QApplication::setWindowIcon(icon);
+}
 
 }  // namespace
 
@@ -150,7 +159,7 @@ void NativeWindow::SetHasBackColor(bool painted) {
 
 void NativeWindow::ShowMenus() {
   if (!menu_bar_visible_) return;
-  menus_ = std::make_unique<MenuView>(window_, window_.Menus(), *menuBar());
+  menus_ = std::make_unique<MenuView>(window_, window_.MenuBar(), *menuBar());
   FitToContent();
 }
 
@@ -181,6 +190,14 @@ bool NativeWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) window_.Activated();
   if (event->type() == QEvent::WindowDeactivate) window_.Deactivated();
   return QMainWindow::event(event);
+}
+
+// The icon is read when the first window has been painted: nobody is to wait for it.
+void NativeWindow::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (QApplication::windowIcon().isNull()) {
+    QMetaObject::invokeMethod(qApp, ReadProgramIcon, Qt::QueuedConnection);
+  }
 }
 
 void NativeWindow::closeEvent(QCloseEvent* event) {

@@ -1,15 +1,10 @@
 #include "desktop/runtime.h"
 
-#include <chrono>
-#include <future>
 #include <map>
 #include <optional>
 #include <utility>
 
 #include <QApplication>
-#include <QFontDatabase>
-#include <QIcon>
-#include <QTimer>
 
 #include "desktop/held_input.h"
 #include "desktop/program_gate.h"
@@ -22,17 +17,6 @@ namespace {
 Application* registered_application = nullptr;
 std::map<std::string, std::unique_ptr<Window>> implicit_instances;
 std::optional<int> end_status;  // once the end has been asked for
-
-// The icon is read when the first window has been painted: nobody is to wait for it.
-constexpr std::chrono::milliseconds kIconDelay(50);
-
-QIcon ProgramIcon() {
-  QIcon icon;
-  for (const int size : {16, 32, 64, 128}) {
-    icon.addFile(QString(":/fundlet/fundlet-%1.png").arg(size), QSize(size, size));
-  }
-  return icon;
-}
 
 }  // namespace
 
@@ -71,7 +55,6 @@ struct Runtime::Parts {
   int argument_count = 1;
   char* arguments[2] = {program.data(), nullptr};
   std::unique_ptr<QApplication> toolkit;
-  std::future<void> font_search;  // waits for its end when it goes
   std::unique_ptr<HeldInput> held_input;
 };
 
@@ -93,14 +76,10 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setStyle(new ProgramStyle);
 #endif
   parts_->toolkit = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
-  // Reading what fonts there are takes a good part of the opening, so it begins at once.
-  parts_->font_search = std::async([] { QFontDatabase::families(); });
   QApplication::setApplicationName("Fundlet");
   QApplication::setApplicationVersion("5");
   QApplication::setDesktopFileName("fundlet");
   QApplication::setQuitOnLastWindowClosed(false);
-  QTimer::singleShot(kIconDelay, parts_->toolkit.get(),
-                     [] { QApplication::setWindowIcon(ProgramIcon()); });
   parts_->held_input = std::make_unique<HeldInput>();
   ProgramGate::Instance().Enter("Start", late);
 }

@@ -14,7 +14,7 @@ class Application {
  public:
   virtual ~Application() = default;
 
-  MenuBar* Menus = nullptr;  // of the application, and of each window that sets none
+  fundlet::MenuBar* MenuBar = nullptr;  // of the application, and of each window that sets none
 
   // Declares, before the desktop has started, that the program draws sharply on dense displays.
   static void _SetSupportsHiDPI(bool supported);

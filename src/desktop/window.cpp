@@ -58,9 +58,9 @@ void Window::SetHeight(std::int64_t height) {
 
 void Window::SetTitle(std::string_view title) { native_->setWindowTitle(ToQt(title)); }
 
-MenuBar& Window::Menus() const {
+MenuBar& Window::MenuBar() const {
   if (menu_bar_ != nullptr) return *menu_bar_;
-  if (App().Menus != nullptr) return *App().Menus;
+  if (App().MenuBar != nullptr) return *App().MenuBar;
   throw NilObjectException("There are no menus to show in the window.");
 }
 
@@ -206,7 +206,7 @@ const Control* Window::EditTarget(const std::string& command) const {
 }
 
 void Window::EnableMenuItems() {
-  MenuBar& menus = Menus();
+  fundlet::MenuBar& menus = MenuBar();
   menus.ForEach([this](MenuItem& item) {
     if (AbleByItself(item)) {
       item.Enable();

@@ -42,8 +42,8 @@ class Window : public PropertyTarget {
   void SetTitle(std::string_view title);
 
   // The menus of this window; without any, it shows the application's.
-  void SetMenuBar(MenuBar& menu_bar) { menu_bar_ = &menu_bar; }
-  MenuBar& Menus() const;
+  void SetMenuBar(fundlet::MenuBar& menu_bar) { menu_bar_ = &menu_bar; }
+  fundlet::MenuBar& MenuBar() const;
   // Binds a method to the item of that name, for when it is chosen with this window in front.
   void _AddMenuHandler(const std::string& item_name, std::function<bool()> handler);
 
@@ -114,7 +114,7 @@ class Window : public PropertyTarget {
   std::unique_ptr<NativeWindow> native_;
   std::vector<std::unique_ptr<Control>> controls_;
   std::map<std::string, std::function<bool()>, std::less<>> menu_handlers_;
-  MenuBar* menu_bar_ = nullptr;
+  fundlet::MenuBar* menu_bar_ = nullptr;
   PushButton* default_button_ = nullptr;
   PushButton* cancel_button_ = nullptr;
   Control* focused_ = nullptr;

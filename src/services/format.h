@@ -12,9 +12,8 @@ namespace fundlet {
 //
 // The number is rounded to the mask's decimal places on its exact binary value, halves away from
 // zero. A number with more digits before the point than the mask has places keeps them all. A
-// negative number has a leading minus sign, unless it rounds to zero. Not-a-number gives "NaN", an
-// infinity "1e999" or "-1e999". Val reads them back as what they were, so that no such value turns
-// into a harmless one when its text is read again.
+// negative number has a leading minus sign, unless it rounds to zero. An infinity gives "1e999" or
+// "-1e999", which Val reads back as what it was; not-a-number gives "NaN".
 std::string Format(double number, std::string_view mask);
 
 }  // namespace fundlet

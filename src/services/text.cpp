@@ -68,9 +68,7 @@ Scanned Scan(std::string_view text) {
 
 double Val(std::string_view text) {
   const Scanned scanned = Scan(text);
-  if (!scanned.present) {
-    return text.starts_with("NaN") ? std::numeric_limits<double>::quiet_NaN() : 0.0;
-  }
+  if (!scanned.present) return 0.0;
   double value = 0.0;
   const char* begin = scanned.number.data();
   const auto [end, error] = std::from_chars(begin, begin + scanned.number.size(), value);

@@ -13,8 +13,7 @@ namespace fundlet {
 // one decimal digit with at most one point before, among or behind the digits, then optionally e or
 // E, a sign or none, and at least one digit. Reading stops at the first character that cannot
 // belong to the number, a comma among them. Correctly rounded; too large a number gives an infinity
-// of its sign, too small a one a zero of its sign, "NaN" gives not-a-number, as Format writes it,
-// and a text that begins with no number gives 0.
+// of its sign, too small a one a zero of its sign, and a text that begins with no number gives 0.
 double Val(std::string_view text);
 
 // The decimal digits of a whole number, with a leading minus sign when it is negative.

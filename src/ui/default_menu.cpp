@@ -107,6 +107,6 @@ void DefaultMenu::Untitled2(MenuBar& menu) { Build(menu, kEdit); }
 void DefaultMenu::Untitled3(MenuBar& menu) { Build(menu, kBeforeHelp); }
 void DefaultMenu::Untitled4(MenuBar& menu) { Build(menu, kHelp); }
 
-MenuItem& EditCopy() { return App().Menus->_Lookup("EditCopy"); }
+MenuItem& EditCopy() { return App().MenuBar->_Lookup("EditCopy"); }
 
 }  // namespace fundlet

@@ -29,7 +29,6 @@ class aFundletWindow : public Window, private EntryForm {
   void Layout();
   void CreateControls();
   void _CreateControls0();
-  void AddMenuHandlers();
 
   // The controls, looked up by their names at each call.
   fundlet::Label& StaticText1() const { return ControlOf<fundlet::Label>("StaticText1"); }
@@ -129,6 +128,7 @@ class aFundletWindow : public Window, private EntryForm {
   void Event_Close() override;
   void Event_EnableMenuItems() override;
   bool Event_KeyDown(const std::string& key) override;
+  void AddMenuHandlers();
 
   // The menu commands. What they return goes back to the menus, and means nothing there.
   bool _Survival8_Action();
@@ -197,7 +197,7 @@ class aFundletWindow : public Window, private EntryForm {
 
 template <typename ItemClass>
 ItemClass& aFundletWindow::Item(const char* name) const {
-  auto* item = dynamic_cast<ItemClass*>(&Menus()._Lookup(name));
+  auto* item = dynamic_cast<ItemClass*>(&MenuBar()._Lookup(name));
   if (item == nullptr) {
     throw NilObjectException("The menu item “" + std::string(name) + "” is of another class.");
   }

@@ -183,5 +183,20 @@ TEST_F(Wheel, TurnsWhileAComputationYields) {
   EXPECT_TRUE(turned);
 }
 
+TEST_F(Wheel, IsPaintedAwayBeforeAnythingElseHappens) {
+  struct Paints : QObject {
+    int count = 0;
+    bool eventFilter(QObject* /*object*/, QEvent* event) override {
+      count += event->type() == QEvent::Paint ? 1 : 0;
+      return false;
+    }
+  } paints;
+  auto& wheel = bench_->ControlOf<ProgressWheel>("Wheel");
+  bench_->Native().Content().installEventFilter(&paints);
+  wheel.SetVisible(false);
+  wheel.Refresh(true);
+  EXPECT_EQ(paints.count, 1);
+}
+
 }  // namespace
 }  // namespace fundlet

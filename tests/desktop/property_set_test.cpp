@@ -137,15 +137,15 @@ TEST_F(AppliedSet, TheEntriesBeforeAFaultHaveBeenSet) {
 }
 
 TEST_F(Registry, ControlsAndMenuItemsAreFoundByNameOnly) {
-  EXPECT_EQ(&Main().Menus()._Lookup("UntitledMenu11"), &Main()
-                                                            .Menus()
-                                                            .Child("EditMenu")
-                                                            .Child("EditSurvival")
-                                                            .Child("Survival2")
-                                                            .Child("UntitledMenu11"));
-  EXPECT_EQ(ErrorOf([] { Main().Menus().Child("Survival2"); }),
+  EXPECT_EQ(&Main().MenuBar()._Lookup("UntitledMenu11"), &Main()
+                                                              .MenuBar()
+                                                              .Child("EditMenu")
+                                                              .Child("EditSurvival")
+                                                              .Child("Survival2")
+                                                              .Child("UntitledMenu11"));
+  EXPECT_EQ(ErrorOf([] { Main().MenuBar().Child("Survival2"); }),
             "The menu “” has no item “Survival2”.");
-  EXPECT_EQ(ErrorOf([] { Main().Menus()._Lookup("survival2"); }),
+  EXPECT_EQ(ErrorOf([] { Main().MenuBar()._Lookup("survival2"); }),
             "The menus have no item “survival2”.");
   EXPECT_EQ(ErrorOf([] { Main()._ControlByName("StaticText12"); }),
             "The window has no control “StaticText12”.");

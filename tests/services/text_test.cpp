@@ -34,9 +34,10 @@ TEST(Val, ReadsTheNumberThatATextBeginsWith) {
 }
 
 TEST(Val, GivesZeroForATextThatBeginsWithNoNumber) {
-  ExpectEachReadsAs(0, {"",          "  ",   "abc", ".",       "-",      "- 5",   "--5",     "+-5",
-                        ".e5",       "e5",   "\n5", ",5",      "$5",     "0x10",  "inf",     "nan",
-                        "-Infinity", "１２", "−5",  "\u00A05", "\303(5", "\2005", "\377\376"});
+  ExpectEachReadsAs(0,
+                    {"",    "  ",        "abc",  ".",  "-",       "- 5",    "--5",   "+-5",
+                     ".e5", "e5",        "\n5",  ",5", "$5",      "0x10",   "inf",   "nan",
+                     "NaN", "-Infinity", "１２", "−5", "\u00A05", "\303(5", "\2005", "\377\376"});
 }
 
 TEST(Val, TakesWhatNoDoubleHoldsToAnInfinityOrAZeroOfItsSign) {
@@ -44,7 +45,6 @@ TEST(Val, TakesWhatNoDoubleHoldsToAnInfinityOrAZeroOfItsSign) {
   const std::string nines(10'000, '9');
   ExpectEachReadsAs(kInfinity,
                     {"1e999", "1e99999999999999999999", nines, "1" + zeros, nines + "e-9"});
-  ExpectEachReadsAs(std::numeric_limits<double>::quiet_NaN(), {"NaN", "NaN%"});
   ExpectEachReadsAs(-kInfinity, {"-1e309", "-" + nines});
   ExpectEachReadsAs(0.0,
                     {"1e-999", "1e-99999999999999999999", "0." + zeros + "1", "0e99999999999"});

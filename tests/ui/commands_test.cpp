@@ -145,7 +145,7 @@ TEST_F(Enabling, TheScheduleFollowsTheLastSolveAndTheRestIsAlwaysThere) {
     EXPECT_EQ(Found("PrintButton").isEnabled(), can_save);
     for (const char* item : {"FileParams", "FileRestore", "FileQuit", "AppAbout", "EditSurvival",
                              "Survival2", "Survival3", "Survival8", "HelpFundlet"}) {
-      EXPECT_TRUE(Main().Menus()._Lookup(item).Enabled()) << item;
+      EXPECT_TRUE(Main().MenuBar()._Lookup(item).Enabled()) << item;
     }
     if (can_save) ExpectDialog(ByKey(Qt::Key_Escape));
     user::Key(Qt::Key_S, Qt::ControlModifier);
@@ -169,7 +169,7 @@ TEST_F(Enabling, TheScheduleFollowsTheLastSolveAndTheRestIsAlwaysThere) {
 TEST_F(Enabling, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
   const auto able = [](const char* item) {
     Main().EnableMenuItems();
-    return Main().Menus()._Lookup(item).Enabled();
+    return Main().MenuBar()._Lookup(item).Enabled();
   };
   QGuiApplication::clipboard()->clear();
   Fill("StartAgeField", "71");

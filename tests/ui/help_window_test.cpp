@@ -98,7 +98,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   const auto enabled = [] {
     std::string names;
     Window().EnableMenuItems();
-    Window().Menus().ForEach([&](MenuItem& item) {
+    Window().MenuBar().ForEach([&](MenuItem& item) {
       if (item.Enabled() && item.Name.starts_with("Edit")) names += item.Name;
     });
     return names;
@@ -109,7 +109,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   EXPECT_EQ(enabled(), "EditCopy");
   user::Key(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "Fundlet");
-  EXPECT_FALSE(Window().Menus()._Lookup("FileSave").Enabled());
+  EXPECT_FALSE(Window().MenuBar()._Lookup("FileSave").Enabled());
   user::Key(Qt::Key_Tab);
   user::Click(*area.viewport());
   EXPECT_EQ(area.textCursor().selectedText(), "");
