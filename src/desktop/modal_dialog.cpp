@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
+#include <QWindow>
 
 #include "desktop/native_window.h"
 #include "desktop/window.h"
@@ -14,16 +15,21 @@ namespace fundlet {
 
 namespace {
 
+struct Opened {
+  QDialog* dialog;
+  const Window* owner;
+};
+
 // The open dialogs, the latest last.
-std::vector<QDialog*>& OpenDialogs() {
-  static std::vector<QDialog*> dialogs;
+std::vector<Opened>& OpenDialogs() {
+  static std::vector<Opened> dialogs;
   return dialogs;
 }
 
 // A dialog while it is open.
 class OpenDialog {
  public:
-  explicit OpenDialog(QDialog& dialog) { OpenDialogs().push_back(&dialog); }
+  OpenDialog(QDialog& dialog, const Window* owner) { OpenDialogs().push_back({&dialog, owner}); }
   ~OpenDialog() { OpenDialogs().pop_back(); }
   OpenDialog(const OpenDialog&) = delete;
   OpenDialog& operator=(const OpenDialog&) = delete;
@@ -34,7 +40,7 @@ class OpenDialog {
 void ModalDialog::Run(QDialog& dialog, Window* owner) {
   QEventLoop loop;
   QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
-  const OpenDialog open(dialog);
+  const OpenDialog open(dialog, owner);
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
   dialog.raise();
@@ -45,21 +51,35 @@ void ModalDialog::Run(QDialog& dialog, Window* owner) {
 
 bool ModalDialog::IsOpen() { return !OpenDialogs().empty(); }
 
+namespace {
+
+// Whether the object is one of the program's windows, or a dialog that another one lies over.
+bool IsBeneath(QObject* object) {
+  if (NativeWindow::Of(object) != nullptr) return true;
+  const auto* widget = qobject_cast<QWidget*>(object);
+  return std::any_of(OpenDialogs().begin(), OpenDialogs().end() - 1, [&](const Opened& opened) {
+    return widget != nullptr ? widget->window() == opened.dialog
+                             : object == opened.dialog->windowHandle();
+  });
+}
+
+}  // namespace
+
 bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
-  if (!IsOpen() || event.type() == QEvent::Close || NativeWindow::Of(object) == nullptr) {
-    return false;
-  }
+  if (!IsOpen() || event.type() == QEvent::Close || !IsBeneath(object)) return false;
   if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::KeyPress) {
-    OpenDialogs().back()->raise();
-    OpenDialogs().back()->activateWindow();
+    OpenDialogs().back().dialog->raise();
+    OpenDialogs().back().dialog->activateWindow();
   }
   return true;
 }
 
-void ModalDialog::DismissAll() {
-  std::vector<QDialog*> dialogs = OpenDialogs();
+void ModalDialog::Dismiss(const Window* owner) {
+  std::vector<Opened> dialogs = OpenDialogs();
   std::reverse(dialogs.begin(), dialogs.end());
-  for (QDialog* dialog : dialogs) dialog->reject();
+  for (const Opened& opened : dialogs) {
+    if (owner == nullptr || opened.owner == owner) opened.dialog->reject();
+  }
 }
 
 }  // namespace fundlet

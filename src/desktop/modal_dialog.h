@@ -20,8 +20,8 @@ class ModalDialog {
   static bool IsOpen();
   // Whether input to the object has to wait for a dialog; then the dialog is brought to the front.
   static bool Blocks(QObject* object, const QEvent& event);
-  // Answers all open dialogs as their close boxes do.
-  static void DismissAll();
+  // Answers the open dialogs of a window as their close boxes do; null stands for those of all.
+  static void Dismiss(const Window* owner);
 };
 
 }  // namespace fundlet

@@ -127,6 +127,11 @@ void NativeWindow::SetSmallest(int width, int height) {
   FitToContent();
 }
 
+void NativeWindow::SetLargest(int width, int height) {
+  largest_ = {width, height};
+  FitToContent();
+}
+
 void NativeWindow::SetResizeable(bool resizeable) {
   resizeable_ = resizeable;
   FitToContent();
@@ -140,7 +145,7 @@ void NativeWindow::FitToContent() {
   }
   layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
   centralWidget()->setMinimumSize(smallest_);
-  centralWidget()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  centralWidget()->setMaximumSize(largest_);
   const int menu_height = menus_ ? menuBar()->sizeHint().height() : 0;
   resize(content_size_ + QSize(0, menu_height));
 }
@@ -201,7 +206,7 @@ void NativeWindow::paintEvent(QPaintEvent* event) {
 }
 
 void NativeWindow::closeEvent(QCloseEvent* event) {
-  ModalDialog::DismissAll();
+  ModalDialog::Dismiss(window_.EndsProgram() ? nullptr : &window_);
   ProgramGate::Instance().Enter("", [this] { window_.Close(); });
   event->accept();
 }

@@ -30,6 +30,8 @@ class NativeWindow : public QMainWindow {
   QSize ContentSize() const;
   void SetSmallest(int width, int height);
   QSize Smallest() const { return smallest_; }
+  void SetLargest(int width, int height);
+  QSize Largest() const { return largest_; }
   void SetResizeable(bool resizeable);
   void SetButton(Qt::WindowType button, bool present);
   void SetBackColor(Colour colour);
@@ -62,6 +64,7 @@ class NativeWindow : public QMainWindow {
   std::unique_ptr<MenuView> menus_;
   QSize content_size_ = {0, 0};
   QSize smallest_ = {0, 0};
+  QSize largest_ = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
   bool resizeable_ = false;
   bool menu_bar_visible_ = true;
 };

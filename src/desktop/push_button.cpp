@@ -2,16 +2,29 @@
 
 #include <array>
 
+#include <QKeyEvent>
 #include <QPushButton>
 
 #include "desktop/focus_reporting.h"
+#include "desktop/native_window.h"
 #include "desktop/qt_text.h"
 
 namespace fundlet {
 
 namespace {
 
-using ButtonWidget = FocusReporting<QPushButton>;
+class ButtonWidget : public FocusReporting<QPushButton> {
+ public:
+  using FocusReporting::FocusReporting;
+
+ protected:
+  // Some desktops let Return press the button that has the focus. Here it calculates, everywhere.
+  void keyPressEvent(QKeyEvent* event) override {
+    if (!static_cast<NativeWindow*>(window())->HandleKey(*event)) {
+      FocusReporting::keyPressEvent(event);
+    }
+  }
+};
 
 ButtonWidget& ButtonOf(const Control& control) {
   return static_cast<ButtonWidget&>(*control.Native());

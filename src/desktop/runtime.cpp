@@ -15,7 +15,9 @@ namespace fundlet {
 namespace {
 
 Application* registered_application = nullptr;
-std::map<std::string, std::unique_ptr<Window>> implicit_instances;
+// Never destroyed: where the process is ended from within the toolkit, as when its display goes, no
+// window may be touched any more.
+auto& implicit_instances = *new std::map<std::string, std::unique_ptr<Window>>;
 std::optional<int> end_status;  // once the end has been asked for
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QStandardPaths>
 
 #include "desktop/modal_dialog.h"
@@ -25,14 +26,44 @@ QString StartFolder() {
   return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
+bool MayReplace(QWidget& asking, const QString& path) {
+  QMessageBox question(&asking);
+  question.setTextFormat(Qt::PlainText);
+  question.setWindowTitle("Save");
+  question.setIcon(QMessageBox::Warning);
+  question.setText(QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
+  question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  question.setDefaultButton(QMessageBox::No);
+  ModalDialog::Run(question, nullptr);
+  asking.activateWindow();
+  return question.result() == QMessageBox::Yes;
+}
+
+// The toolkit's own question about a file that is there already would keep the windows beneath from
+// being closed.
+class SaveWidget : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+ protected:
+  void accept() override {
+    const QString path = selectedFiles().value(0);
+    const bool asks = testOption(DontConfirmOverwrite) && QFileInfo(path).isFile();
+    if (!asks || MayReplace(*this, path)) QFileDialog::accept();
+  }
+};
+
 }  // namespace
 
 std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
                                             const std::string& proposed_name) {
   Window* window = Window::Front();
-  QFileDialog dialog(window != nullptr ? &window->Native() : nullptr, "Save", StartFolder(),
-                     ToQt(filter));
+  SaveWidget dialog(window != nullptr ? &window->Native() : nullptr, "Save", StartFolder(),
+                    ToQt(filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
+#ifdef Q_OS_LINUX
+  dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+#endif
   dialog.selectFile(ToQt(proposed_name));
   ModalDialog::Run(dialog, window);
   const QString path = dialog.selectedFiles().value(0);

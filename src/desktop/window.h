@@ -69,6 +69,8 @@ class Window : public PropertyTarget {
   // The frontmost window of the program, null where none is visible.
   static Window* Front();
 
+  // Whether the program ends with the window, whatever else is open then.
+  virtual bool EndsProgram() const { return false; }
   virtual void Event_Open() {}
   virtual void Event_Activate() {}
   virtual void Event_Close() {}

@@ -28,6 +28,12 @@ struct Window::Properties {
   static void MinHeight(PropertyTarget& target, std::int64_t height) {
     Native(target).SetSmallest(Native(target).Smallest().width(), static_cast<int>(height));
   }
+  static void MaxWidth(PropertyTarget& target, std::int64_t width) {
+    Native(target).SetLargest(static_cast<int>(width), Native(target).Largest().height());
+  }
+  static void MaxHeight(PropertyTarget& target, std::int64_t height) {
+    Native(target).SetLargest(Native(target).Largest().width(), static_cast<int>(height));
+  }
   static void Resizeable(PropertyTarget& target, bool resizeable) {
     Native(target).SetResizeable(resizeable);
   }
@@ -51,7 +57,7 @@ std::string Window::Described() const {
 }
 
 const PropertySetter* Window::FindSetter(std::string_view name) const {
-  // The largest size is that of the desktop; a window shows when Show is called.
+  // A window shows when Show is called.
   static constexpr std::array kRows = {
       PropertyRow{"BackColor", &Properties::BackColor},
       PropertyRow{"CloseButton", &Properties::CloseButton},
@@ -63,8 +69,8 @@ const PropertySetter* Window::FindSetter(std::string_view name) const {
       PropertyRow{"Height", SetThrough<&Window::SetHeight>::kFunction},
       PropertyRow{"LiveResize", kNoEffect<bool>},
       PropertyRow{"MacProcID", kNoEffect<std::int64_t>},
-      PropertyRow{"MaxHeight", kNoEffect<std::int64_t>},
-      PropertyRow{"MaxWidth", kNoEffect<std::int64_t>},
+      PropertyRow{"MaxHeight", &Properties::MaxHeight},
+      PropertyRow{"MaxWidth", &Properties::MaxWidth},
       PropertyRow{"MaximizeButton", &Properties::MaximizeButton},
       PropertyRow{"MenuBarVisible", &Properties::MenuBarVisible},
       PropertyRow{"MinHeight", &Properties::MinHeight},

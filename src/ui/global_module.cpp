@@ -7,7 +7,8 @@
 namespace fundlet {
 
 bool GlobalModule::HelpShowing = false;
-std::shared_ptr<aHelpWindow> GlobalModule::HelpWindow;
+// Never destroyed, so that no window is touched where the process is ended from within the toolkit.
+std::shared_ptr<aHelpWindow>& GlobalModule::HelpWindow = *new std::shared_ptr<aHelpWindow>;
 
 void GlobalModule::Initialise() {
   HelpShowing = false;

@@ -17,8 +17,8 @@ struct GlobalModule {
   static void Initialise();
   static void Release();
 
-  static bool HelpShowing;                         // a Help window is open
-  static std::shared_ptr<aHelpWindow> HelpWindow;  // the one made last, open or closed
+  static bool HelpShowing;                          // a Help window is open
+  static std::shared_ptr<aHelpWindow>& HelpWindow;  // the one made last, open or closed
 };
 
 }  // namespace fundlet

@@ -123,6 +123,7 @@ class aFundletWindow : public Window, private EntryForm {
   void RestoreButton_Action(PushButton& button);
 
   // The events of the window.
+  bool EndsProgram() const override { return true; }
   void Event_Open() override;
   void Event_Activate() override;
   void Event_Close() override;

@@ -143,6 +143,8 @@ TEST_F(Enabling, TheScheduleFollowsTheLastSolveAndTheRestIsAlwaysThere) {
     Main().EnableMenuItems();
     EXPECT_EQ(Main().FileSave().Enabled(), can_save);
     EXPECT_EQ(Found("PrintButton").isEnabled(), can_save);
+    if (can_save) ExpectDialog(ByKey(Qt::Key_Escape));
+    user::Choose("File", "Save Schedule");
     for (const char* item : {"FileParams", "FileRestore", "FileQuit", "AppAbout", "EditSurvival",
                              "Survival2", "Survival3", "Survival8", "HelpFundlet"}) {
       EXPECT_TRUE(Main().MenuBar()._Lookup(item).Enabled()) << item;
@@ -208,6 +210,9 @@ TEST_F(AboutPanel, AFunctionThatIsNotFoundIsTold) {
 }
 
 TEST_F(Closing, EndsTheProgramByMenuKeyAndCloseBoxAlsoWithHelpOrAMessageOpen) {
+  static const Answer close_main = [](QWidget&) {
+    user::CloseBox(*Found("StartYearField").window());
+  };
   const std::function<void()> endings[] = {
       [] { user::Choose("File", "Quit"); },
       [] { user::Key(Qt::Key_Q, Qt::ControlModifier); },
@@ -222,9 +227,23 @@ TEST_F(Closing, EndsTheProgramByMenuKeyAndCloseBoxAlsoWithHelpOrAMessageOpen) {
       },
       [this] {
         Fill("StartAgeField", "1");
-        ExpectDialog([](QWidget&) { user::CloseBox(*Found("StartYearField").window()); });
+        ExpectDialog(close_main);
         Calculate();
       },
+      [this] {
+        ExpectDialog(close_main);
+        user::Choose("File", "About Fundlet…");
+      },
+      [this] {
+        folder_.Write("old.txt", "old");
+        Calculate();
+        ExpectDialog([&](QWidget& dialog) {
+          ExpectDialog(close_main);
+          BySaving(folder_.Path() / "old.txt")(dialog);
+        });
+        user::Key(Qt::Key_S, Qt::ControlModifier);
+      },
+      [] { QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit)); },
   };
   for (const auto& ending : endings) {
     EXPECT_EQ(RunWith(ending), 0);

@@ -149,18 +149,35 @@ TEST_F(Fields, ActivationsLeadBackToTheRefusedFieldUntilTheNextPress) {
   Fill("StartAgeField", "10");
   ExpectDialog(ByKey(Qt::Key_Escape));
   Calculate();
-  const auto leave_and_return = [] {
-    user::Key(Qt::Key_F1);
-    user::Key(Qt::Key_Return);
+  const std::function<void()> departures[] = {
+      [] {
+        user::Key(Qt::Key_F1);
+        user::Key(Qt::Key_Return);
+      },
+      [this] {
+        ExpectDialog(ByKey(Qt::Key_Escape));
+        user::Choose("File", "About Fundlet…");
+      },
+      [] {
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        user::Settle();
+        Main().Native().activateWindow();
+        user::Settle();
+      },
   };
-  Fill("COLAField", "1");
-  leave_and_return();
-  EXPECT_EQ(FocusName(), "StartAgeField");
-  EXPECT_EQ(Text("COLAField"), "1.0");
+  const auto expect_focus_after_each = [&](const char* field) {
+    for (const auto& leave_and_return : departures) {
+      Fill("COLAField", "1");
+      leave_and_return();
+      EXPECT_EQ(FocusName(), field);
+      EXPECT_EQ(Text("COLAField"), "1.0");
+    }
+  };
+  expect_focus_after_each("StartAgeField");
   Calculate();
-  Fill("COLAField", "2");
-  leave_and_return();
-  EXPECT_EQ(FocusName(), "COLAField");
+  expect_focus_after_each("COLAField");
 }
 
 TEST_F(Fields, AClickSelectsTheWholeTextAndTheNextOnePlacesTheCaret) {

@@ -92,6 +92,21 @@ TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
   EXPECT_EQ(Window().TextField().Text(), page);
 }
 
+TEST_F(Help, LeavesAMessageOfTheMainWindowOpenWhenItCloses) {
+  user::Key(Qt::Key_F1);
+  Main().Native().activateWindow();
+  user::Settle();
+  Fill("StartAgeField", "1");
+  ExpectDialog([](QWidget& dialog) {
+    user::CloseBox(Window().Native());
+    EXPECT_EQ(Showing(), 0);
+    EXPECT_TRUE(dialog.isVisible());
+    ByKey(Qt::Key_Return)(dialog);
+  });
+  Calculate();
+  EXPECT_FALSE(GlobalModule::HelpShowing);
+}
+
 TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   user::Key(Qt::Key_F1);
   auto& area = Found<QPlainTextEdit>("TextField");

@@ -100,6 +100,10 @@ TEST_F(MainWindow, ReturnSolvesTheDefaultPlanAndGoesBackToTheField) {
   EXPECT_EQ(Selected("StartFundletField"), "1,000,000");
   EXPECT_TRUE(Found("PrintButton").isEnabled());
   EXPECT_FALSE(Main().Windmill().Visible());
+  Fill("YearsLeftField", "28");
+  user::Click(Found("CalculateButton"));
+  EXPECT_EQ(FocusName(), "YearsLeftField");
+  EXPECT_NE(Result(), "Initial Year Draw:  $73,325");
 }
 
 TEST_F(MainWindow, APlanThatCannotBeSolvedIsToldAndTheNextOneSolves) {
