@@ -11,6 +11,7 @@
 
 #include "desktop/modal_dialog.h"
 #include "desktop/program_gate.h"
+#include "desktop/program_style.h"
 #include "desktop/push_button.h"
 #include "desktop/qt_text.h"
 #include "desktop/text_field.h"
@@ -26,26 +27,6 @@ constexpr auto kControlModifier = Qt::MetaModifier;
 #else
 constexpr auto kControlModifier = Qt::ControlModifier;
 #endif
-
-// The colours of a window that paints its own background: they go with that background and not
-// with the theme of the desktop, so that every text can be read under any theme.
-QPalette PaletteFor(const QColor& background) {
-  const QColor button(0xF4, 0xF4, 0xF1);
-  const QColor selection(0x12, 0x57, 0x9C);
-  const QColor dimmed(0x66, 0x66, 0x66);
-  QPalette palette(button, background);
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Text, Qt::black);
-  palette.setColor(QPalette::WindowText, Qt::black);
-  palette.setColor(QPalette::ButtonText, Qt::black);
-  palette.setColor(QPalette::PlaceholderText, dimmed);
-  palette.setColor(QPalette::Highlight, selection);
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, dimmed);
-  }
-  return palette;
-}
 
 // The content area. It draws the ring round the control that has the focus, in the gap that the
 // layout leaves between the controls.

@@ -48,7 +48,27 @@ class ArrowIcon : public QIconEngine {
 
 }  // namespace
 
+QPalette PaletteFor(const QColor& background) {
+  const QColor button(0xF4, 0xF4, 0xF1);
+  const QColor selection(0x12, 0x57, 0x9C);
+  const QColor dimmed(0x66, 0x66, 0x66);
+  QPalette palette(button, background);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::ButtonText, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, dimmed);
+  palette.setColor(QPalette::Highlight, selection);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, dimmed);
+  }
+  return palette;
+}
+
 ProgramStyle::ProgramStyle() : QProxyStyle("Fusion") {}
+
+void ProgramStyle::polish(QPalette& palette) { palette = PaletteFor(QColor(0xEF, 0xEF, 0xEF)); }
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {

@@ -1,13 +1,22 @@
 #pragma once
 
+#include <QPalette>
 #include <QProxyStyle>
 
 namespace fundlet {
+
+// The colours on a background of the program's own. They go with that background and not with the
+// theme of the desktop, so that every text can be read under any theme.
+QPalette PaletteFor(const QColor& background);
 
 // The style of the program where the desktop has none of its own.
 class ProgramStyle : public QProxyStyle {
  public:
   ProgramStyle();
+
+  // Menus and dialogs have the program's colours too: not every theme's can be read well.
+  void polish(QPalette& palette) override;
+  using QProxyStyle::polish;
 
   // The toolkit keeps what it has drawn under names in which the identity of the palette has a
   // part, every window has a palette of another identity, and the names are kept for ever. Here

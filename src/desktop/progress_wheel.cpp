@@ -17,8 +17,9 @@ constexpr int kMillisecondsPerSpoke = 60;
 class WheelWidget : public QWidget {
  public:
   WheelWidget() {
-    setAccessibleName("Busy");
+    // Before the name, which has the toolkit make and keep what a screen reader sees.
     SetAccessibleRole(*this, QAccessible::Animation);
+    setAccessibleName("Busy");
   }
 
  protected:

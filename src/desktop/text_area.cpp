@@ -40,6 +40,8 @@ AreaWidget& AreaOf(const Control& control) { return static_cast<AreaWidget&>(*co
 
 TextArea::TextArea(Window& window) : TextControl(window, new AreaWidget(window, *this)) {
   AreaOf(*this).setTabChangesFocus(true);
+  // No label stands beside it, so a screen reader tells it by its window.
+  AreaOf(*this).setAccessibleName(window.Native().windowTitle());
 }
 
 std::string TextArea::Text() const {

@@ -4,7 +4,9 @@
 #include <QFontInfo>
 #include <QImage>
 #include <QLabel>
+#include <QMenu>
 #include <QPainter>
+#include <QPushButton>
 
 #include "tests/ui/window_fixture.h"
 #include "ui/main_layout.h"
@@ -122,6 +124,37 @@ TEST_F(Legibility, HoldsUnderAnyThemeAndScale) {
     for (const double scale : kScales) ExpectLegible(scale);
   }
   QApplication::setPalette(light);
+}
+
+TEST_F(Legibility, HoldsInTheMenusTheHelpAndTheMessages) {
+  user::OpenMenu("Edit");
+  user::Key(Qt::Key_Down);
+  auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+  const QImage items = Picture(menu, 1.0);
+  int disabled = 0;
+  for (QAction* item : menu.actions()) {
+    if (!item->isVisible() || item->text().isEmpty()) continue;
+    disabled += item->isEnabled() ? 0 : 1;
+    EXPECT_GE(ContrastIn(items, menu.actionGeometry(item)), item->isEnabled() ? 7.0 : 4.5)
+        << item->text().toStdString();
+  }
+  EXPECT_GT(disabled, 0);
+  menu.close();
+  user::Settle();
+  const auto expect_legible = [](QWidget& widget) {
+    EXPECT_GE(ContrastIn(Picture(*widget.window(), 1.0), Inside(widget)), 7.0);
+  };
+  user::Key(Qt::Key_F1);
+  expect_legible(Found("TextField"));
+  expect_legible(Found("DoneButton"));
+  user::Key(Qt::Key_Return);
+  Fill("StartAgeField", "1");
+  ExpectDialog([&](QWidget& dialog) {
+    expect_legible(*dialog.findChild<QLabel*>("qt_msgbox_label"));
+    expect_legible(*dialog.findChild<QPushButton*>());
+    ByKey(Qt::Key_Return)(dialog);
+  });
+  Calculate();
 }
 
 TEST_F(Legibility, OfTheFocusIsARingThatStandsOutAroundOneControl) {
