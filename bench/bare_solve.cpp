@@ -60,6 +60,7 @@ void BareSolve::Run(const Plan& plan) {
 
 const std::vector<NamedPlan>& MeasuredPlans() {
   static const std::vector<NamedPlan> plans = {
+      {"4_years_no_rates", MakePlan(4, 0, 0, 0, 0)},
       {"4_years", MakePlan(4, 0.025, 0.05, 20000, 100000)},
       {"10_years", MakePlan(10, 0.025, 0.05, 20000, 100000)},
       {"20_years", MakePlan(20, 0.025, 0.05, 20000, 100000)},

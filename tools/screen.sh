@@ -21,6 +21,7 @@ open_screen() {
   screen_folder=$(mktemp -d)
   mkdir -m 700 "$screen_folder/home" "$screen_folder/config" "$screen_folder/runtime"
   unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS XDG_CURRENT_DESKTOP XDG_SESSION_TYPE
+  unset QT_SCALE_FACTOR QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
   export HOME=$screen_folder/home XDG_CONFIG_HOME=$screen_folder/config
   export XDG_RUNTIME_DIR=$screen_folder/runtime QT_QPA_PLATFORM=xcb
   Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \

@@ -13,6 +13,11 @@ share=$folder/prefix/share
 entry=$share/applications/fundlet.desktop
 
 desktop-file-validate "$entry"
+[ -s "$share/icons/hicolor/scalable/apps/fundlet.svg" ] || wrong 'the scalable icon is not there'
+for size in 16 32 64 128 256; do
+  [ "$(identify -format %wx%h "$share/icons/hicolor/${size}x$size/apps/fundlet.png")" = \
+    "${size}x$size" ] || wrong "the icon of $size by $size is not there"
+done
 appstreamcli validate --no-net "$share"/metainfo/*.xml
 cmake -S "$source" -B "$folder/build" -G Ninja -DBUILD_TESTING=OFF -DFUNDLET_BENCH=OFF \
   -DFUNDLET_SCREENSHOT_URL=https://example.org/doc/window.png >/dev/null

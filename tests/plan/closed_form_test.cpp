@@ -80,6 +80,8 @@ TEST(ClosedForm, GivesTheFinalBalanceOfAnyAcceptedPlan) {
     Plan plan = dice.Throw(count % 2 == 0 ? 0.1 : 0.9999);
     if (count % 3 == 0) plan.COLA = edges[count / 3 % 4];
     if (count % 5 == 0) plan.FundletAPR = edges[count / 5 % 4];
+    if (count % 7 == 0) plan.StartFundlet = count % 2 == 0 ? 0 : 999'999'999;
+    if (count % 11 == 0) plan.SocialSecurity = count % 2 == 0 ? 0 : 99'999;
     ASSERT_NO_FATAL_FAILURE(ExpectOnTheLine(plan, dice.Upto(2e9) - 5e8));
   }
 }

@@ -17,7 +17,7 @@ constexpr int kRounds = 1000;
 #endif
 
 // The bytes that the program has asked for and not given back.
-auto MemoryInUse() { return static_cast<long>(mallinfo2().uordblks); }
+auto MemoryInUse() { return static_cast<long>(mallinfo2().uordblks + mallinfo2().hblkhd); }
 
 auto OpenFiles() {
   const std::filesystem::directory_iterator files("/proc/self/fd");
