@@ -1,5 +1,3 @@
-#include <random>
-
 #include "tests/ui/window_fixture.h"
 
 namespace fundlet {
@@ -27,15 +25,6 @@ TEST_F(AStart, GoesOnAfterAFileThatCannotBeReadAndLeavesItAlone) {
   }
 }
 
-TEST_F(AStart, GoesOnWithAFolderInTheFilesPlace) {
-  fs::create_directory(folder_.Path() / kFile);
-  ExpectDialog(ByCloseBox());
-  Start();
-  EXPECT_EQ(TakeDialogs(), kBusy);
-  EXPECT_EQ(Text("COLAField"), "0.0");
-  EXPECT_TRUE(fs::is_directory(folder_.Path() / kFile));
-}
-
 TEST_F(AStart, TakesAnyRecordAndCalculatesOrRefuses) {
   const auto number = [](const char* first, char rest) { return first + std::string(6, rest); };
   std::vector<std::string> records;
@@ -43,11 +32,6 @@ TEST_F(AStart, TakesAnyRecordAndCalculatesOrRefuses) {
        {number("\x7F\xF8", 1), std::string("\x7F\xF0\0\0\0\0\0\0", 8), number("\xFF\xF0", 0),
         number("\x7F\xEF", '\xFF'), number("\x80\x01", 0)}) {
     records.push_back("\x07\xE4\x3C\x1E" + value + value + value + value + value);
-  }
-  std::mt19937 bits(20'101);
-  for (int record = 0; record < 30; ++record) {
-    records.emplace_back(44, ' ');
-    for (char& byte : records.back()) byte = static_cast<char>(bits());
   }
   for (const std::string& record : records) {
     folder_.Write(kFile, record);
