@@ -1,10 +1,12 @@
 #include "desktop/runtime.h"
 
+#include <future>
 #include <map>
 #include <optional>
 #include <utility>
 
 #include <QApplication>
+#include <QFontDatabase>
 
 #include "desktop/held_input.h"
 #include "desktop/program_gate.h"
@@ -57,6 +59,7 @@ struct Runtime::Parts {
   int argument_count = 1;
   char* arguments[2] = {program.data(), nullptr};
   std::unique_ptr<QApplication> toolkit;
+  std::future<void> font_search;  // waits for its end when it goes
   std::unique_ptr<HeldInput> held_input;
 };
 
@@ -78,6 +81,9 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setStyle(new ProgramStyle);
 #endif
   parts_->toolkit = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
+  // The toolkit's search for fonts takes a good part of the opening, and runs beside the connection
+  // to the desktop from here on. Nothing of the program's own leaves this thread.
+  parts_->font_search = std::async([] { QFontDatabase::families(); });
   QApplication::setApplicationName("Fundlet");
   QApplication::setApplicationVersion("5");
   QApplication::setDesktopFileName("fundlet");
