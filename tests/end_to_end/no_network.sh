@@ -23,10 +23,10 @@ strace -o /dev/null true 2>/dev/null || skip 'no process may be watched here.'
 trap close_screen EXIT
 open_screen 1024x640 || wrong 'the virtual screen did not open'
 bus=$screen_folder/bus
-dbus-daemon --session --nofork --nopidfile --address="unix:path=$bus" 2>"$screen_folder/bus.log" &
+dbus-daemon --session --nofork --nopidfile --address="unix:path=${bus// /%20}" 2>"$screen_folder/bus.log" &
 screen_processes+=($!)
 wait_for 20 test -S "$bus" || wrong 'the session bus did not start'
-export DBUS_SESSION_BUS_ADDRESS=unix:path=$bus
+export DBUS_SESSION_BUS_ADDRESS=unix:path=${bus// /%20}
 
 calls=$screen_folder/calls
 # -D: the program keeps the process that is started here.

@@ -19,7 +19,7 @@ namespace {
 enum class Fault { Error, Kill };
 Fault fault = Fault::Error;
 int calls_to_fault = 0;  // 0 when no call is to fail
-bool look_failed = false;
+bool harmless = false;   // whether the call that failed was one that the program can do without
 
 bool CallFails() {
   if (calls_to_fault == 0 || --calls_to_fault > 0) return false;
@@ -71,7 +71,17 @@ std::FILE* __wrap_fopen(const char* path, const char* mode) {
 
 int stat(const char* path, struct stat* status) {
   if (!CallFails()) return fstatat(AT_FDCWD, path, status, 0);
-  look_failed = true;
+  harmless = true;
+  return -1;
+}
+
+int mkdir(const char* path, mode_t mode) {
+  return CallFails() ? -1 : mkdirat(AT_FDCWD, path, mode);
+}
+
+int fchmodat(int /*folder*/, const char* path, mode_t mode, int /*flags*/) {
+  if (!CallFails()) return chmod(path, mode);
+  harmless = true;
   return -1;
 }
 }
@@ -103,11 +113,21 @@ void Export(Plan& plan) { SaveSchedule(plan, ParametersFile()); }
 struct Operation {
   void (*run)(Plan&);
   std::string before;  // what the file holds; where that is nothing there is no file
+  bool folder_missing = false;
 };
 
 const std::string kOld = std::string(44, '\x01') + "tail";
-const Operation kOperations[] = {{Start, kOld},  {Start, ""},  {Remember, kOld}, {Remember, ""},
-                                 {Recall, kOld}, {Recall, ""}, {Export, kOld},   {Export, ""}};
+const Operation kOperations[] = {{Start, kOld},        {Start, ""},       {Remember, kOld},
+                                 {Remember, ""},       {Recall, kOld},    {Recall, ""},
+                                 {Export, kOld},       {Export, ""},      {Start, "", true},
+                                 {Remember, "", true}, {Recall, "", true}};
+
+// The name of the file within the scratch folder, the user's preferences folder being set.
+std::string Prepare(const Operation& operation, const ScratchFolder& folder) {
+  const std::string name = operation.folder_missing ? "new/folder/" : "";
+  setenv("XDG_CONFIG_HOME", (folder.Path() / name).c_str(), 1);
+  return name + kParametersFileName;
+}
 
 struct Outcome {
   bool failed = false;
@@ -121,11 +141,12 @@ std::ptrdiff_t OpenFiles() {
 }
 
 Outcome RunWithFault(const Operation& operation, int at_call, const ScratchFolder& folder) {
-  if (!operation.before.empty()) folder.Write(kParametersFileName, operation.before);
+  const std::string name = Prepare(operation, folder);
+  if (!operation.before.empty()) folder.Write(name, operation.before);
   const std::ptrdiff_t open_files = OpenFiles();
   Plan plan;
   Outcome outcome;
-  look_failed = false;
+  harmless = false;
   calls_to_fault = at_call;
   try {
     operation.run(plan);
@@ -136,7 +157,7 @@ Outcome RunWithFault(const Operation& operation, int at_call, const ScratchFolde
   outcome.fault_met = calls_to_fault == 0;
   calls_to_fault = 0;
   EXPECT_EQ(OpenFiles(), open_files);
-  outcome.file = folder.Read(kParametersFileName);
+  outcome.file = folder.Read(name);
   outcome.plan = Shown(plan);
   return outcome;
 }
@@ -158,9 +179,9 @@ TEST(FileFaults, AreReportedAndLeaveNothingButOldAndNewValues) {
     ASSERT_FALSE(whole.failed);
     int call = 1;
     for (Outcome faulty = run(call); faulty.fault_met; faulty = run(++call)) {
-      // A failed look alone stops nothing: whether the file can be used shows when it is opened.
+      // A look stops nothing: whether the file can be used shows when it is opened.
       EXPECT_TRUE(faulty.failed ||
-                  (look_failed && faulty.file == whole.file && faulty.plan == whole.plan));
+                  (harmless && faulty.file == whole.file && faulty.plan == whole.plan));
       EXPECT_TRUE(IsOverwritten(faulty.file, operation.before, whole.file)) << call;
       for (std::size_t at = 0; at < 8; ++at) {
         EXPECT_TRUE(faulty.plan[at] == whole.plan[at] || faulty.plan[at] == Shown(Plan())[at]);
@@ -176,14 +197,15 @@ TEST(FileFaults, OfAKilledProgramLeaveAFileThatTheNextStartReadsOrReports) {
     int status = 0;
     for (int call = 1; status == 0; ++call) {
       const ScratchFolder folder;
+      const std::string name = Prepare(operation, folder);
       const pid_t child = fork();
       if (child == 0) {
         RunWithFault(operation, call, folder);
         _exit(1);
       }
       ASSERT_EQ(waitpid(child, &status, 0), child);
-      const bool there = folder.Item(kParametersFileName).Exists();
-      const bool cut_short = there && folder.Read(kParametersFileName).size() < 44;
+      const bool there = folder.Item(name).Exists();
+      const bool cut_short = there && folder.Read(name).size() < 44;
       Plan plan;
       bool reported = false;
       StartParameters(plan, [&](const std::string&) { reported = true; });
