@@ -1,10 +1,11 @@
 #include "services/format.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <iomanip>
+#include <locale>
+#include <sstream>
 
 namespace fundlet {
 
@@ -38,12 +39,12 @@ struct Decimal {
 // point and 1074 after it, so nothing is rounded here.
 Decimal ExactDigits(double number) {
   constexpr int kMostDecimals = 1074;
-  std::array<char, 309 + 1 + kMostDecimals> digits{};
-  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), number,
-                                     std::chars_format::fixed, kMostDecimals);
-  const char* point = std::find(digits.data(), written.ptr, '.');
-  return {std::string(static_cast<const char*>(digits.data()), point),
-          std::string(point + 1, static_cast<const char*>(written.ptr))};
+  std::ostringstream text;
+  text.imbue(std::locale::classic());
+  text << std::fixed << std::setprecision(kMostDecimals) << number;
+  const std::string digits = text.str();
+  const std::size_t point = digits.find('.');
+  return {digits.substr(0, point), digits.substr(point + 1)};
 }
 
 void AddOne(std::string& digits) {

@@ -1,9 +1,9 @@
 #include "services/text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
-#include <system_error>
+#include <locale>
+#include <sstream>
 
 namespace fundlet {
 
@@ -69,10 +69,11 @@ Scanned Scan(std::string_view text) {
 double Val(std::string_view text) {
   const Scanned scanned = Scan(text);
   if (!scanned.present) return 0.0;
+  // A stream, since not every library reads a double with from_chars yet.
+  std::istringstream number{std::string(scanned.number)};
+  number.imbue(std::locale::classic());
   double value = 0.0;
-  const char* begin = scanned.number.data();
-  const auto [end, error] = std::from_chars(begin, begin + scanned.number.size(), value);
-  if (error != std::errc{}) {
+  if (!(number >> value)) {
     const bool too_large = scanned.magnitude > 0;
     value = too_large ? std::numeric_limits<double>::infinity() : 0.0;
   }
