@@ -47,11 +47,13 @@ void Control::SetHelpTag(std::string_view text) {
 
 void Control::Refresh(bool at_once) {
   // What a hidden control has left is the parent's to paint over.
-  QWidget& painted = native_->isHidden() ? *native_->parentWidget() : *native_;
+  const bool hidden = native_->isHidden();
+  QWidget& painted = hidden ? *native_->parentWidget() : *native_;
+  const QRect area = hidden ? native_->geometry() : native_->rect();
   if (at_once) {
-    painted.repaint();
+    painted.repaint(area);
   } else {
-    painted.update();
+    painted.update(area);
   }
 }
 

@@ -67,33 +67,6 @@ TEST(PropertySet, HasTheEntriesOfItsClassInTheirOrder) {
                 "BackColor \xCC\xFF\xCC\0MenuBarVisible \x01"s);
 }
 
-// A field's set is a long one, so that its names in their order stand for the whole.
-TEST(PropertySet, ListsTheNamesOfTheOtherClassesInTheirOrder) {
-  const auto names = [](std::span<const Property> order) {
-    std::string all;
-    for (const Property& entry : order) all.append(entry.name) += ' ';
-    return all;
-  };
-  EXPECT_EQ(names(order::OfTextField()),
-            "InitialParent DataField DataSource AutomaticallyCheckSpelling Alignment AcceptTabs "
-            "LimitText ReadOnly Mask Text CueText Underline Italic Bold TextUnit TextSize TextFont "
-            "AutoDeactivate HelpTag Visible Format Enabled BackColor TextColor UseFocusRing "
-            "Password Border TabStop TabIndex TabPanelIndex LockBottom LockRight LockTop LockLeft "
-            "Height Width Top Left Index Name ");
-  EXPECT_EQ(
-      names(order::OfPushButton()),
-      "InitialParent Underline Italic Bold TextUnit TextSize TextFont ButtonStyle "
-      "AutoDeactivate HelpTag Visible Enabled Cancel Default Caption TabStop TabIndex "
-      "TabPanelIndex LockBottom LockRight LockTop LockLeft Height Width Top Left Index Name ");
-  EXPECT_EQ(names(order::OfTextArea()),
-            "InitialParent DataField DataSource AutomaticallyCheckSpelling Alignment AcceptTabs "
-            "LimitText ReadOnly Mask Text Underline Italic Bold TextUnit TextSize TextFont "
-            "LineSpacing LineHeight HideSelection AutoDeactivate HelpTag Visible Format Enabled "
-            "BackColor TextColor UseFocusRing Styled ScrollbarVertical ScrollbarHorizontal "
-            "Multiline Border TabStop TabIndex TabPanelIndex LockBottom LockRight LockTop LockLeft "
-            "Height Width Top Left Index Name ");
-}
-
 using AppliedSet = StartedTest;
 using Registry = StartedTest;
 

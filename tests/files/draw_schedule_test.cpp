@@ -1,12 +1,9 @@
 #include "files/draw_schedule.h"
 
 #include <algorithm>
-#include <csignal>
-#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
-#include "services/exceptions.h"
 #include "tests/plan/sample_plans.h"
 #include "tests/services/scratch_folder.h"
 
@@ -69,25 +66,6 @@ TEST(DrawSchedule, ShowsTheParametersOfNowAboveTheBalancesOfTheLastSolve) {
                            "\n2002\t73\t211,984\t141,577\t0\t74\n"}) {
     EXPECT_NE(text.find(part), std::string::npos) << part << " in " << text;
   }
-}
-
-TEST(DrawSchedule, ThatFindsNoMoreRoomEndsThereAndSaysWhy) {
-  const ScratchFolder folder;
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit small{200, before.rlim_max};
-  std::string message;
-  setrlimit(RLIMIT_FSIZE, &small);
-  try {
-    SaveSchedule(SolvedSample(), folder.Item("text"));
-  } catch (const IOException& failure) {
-    message = failure.what();
-  }
-  setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_EQ(message, "File “" + folder.Item("text").Path().string() +
-                         "” could not be written: the file would be too large.");
-  EXPECT_EQ(folder.Read("text"), kSampleSchedule.substr(0, 200));
 }
 
 }  // namespace

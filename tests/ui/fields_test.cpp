@@ -135,14 +135,7 @@ TEST_F(Fields, ActivationsLeadBackToTheRefusedFieldUntilTheNextPress) {
         ExpectDialog(ByKey(Qt::Key_Escape));
         user::Choose("File", "About Fundlet…");
       },
-      [] {
-        QWidget other;
-        other.show();
-        other.activateWindow();
-        user::Settle();
-        Main().Native().activateWindow();
-        user::Settle();
-      },
+      [] { user::VisitAnotherWindow(Main().Native()); },
   };
   const auto expect_focus_after_each = [&](const char* field) {
     for (const auto& leave_and_return : departures) {

@@ -64,12 +64,7 @@ class RandomWalk : public StartedTest {
     if (GlobalModule::HelpShowing && Below(2) == 0) {
       user::CloseBox(GlobalModule::HelpWindow->Native());
     } else {
-      QWidget other;
-      other.show();
-      other.activateWindow();
-      user::Settle();
-      Main().Native().activateWindow();
-      user::Settle();
+      user::VisitAnotherWindow(Main().Native());
     }
   }
   void TypeAPlanThatPasses() {

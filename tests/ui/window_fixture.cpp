@@ -101,6 +101,15 @@ void CloseBox(QWidget& window) {
   Settle();
 }
 
+void VisitAnotherWindow(QWidget& from) {
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  Settle();
+  from.activateWindow();
+  Settle();
+}
+
 void OpenMenu(const QString& menu) {
   auto* bar = QApplication::activeWindow()->findChild<QMenuBar*>();
   Click(*bar, bar->actionGeometry(ActionNamed(*bar, menu)).center());

@@ -30,6 +30,7 @@ void Replace(const std::string& text);  // selects all, then types
 void Click(QWidget& widget);
 void Click(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton);
 void CloseBox(QWidget& window);
+void VisitAnotherWindow(QWidget& from);  // a window that is not the program's, and back
 // Opens the menu on the active window's bar, and then chooses the item; texts are as shown.
 void OpenMenu(const QString& menu);
 void Choose(const QString& menu, const QString& item, const QString& subitem = "");
