@@ -1,7 +1,5 @@
 #include "desktop/control.h"
 
-#include <array>
-
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QWidget>
@@ -76,28 +74,32 @@ void Control::SetTabIndex(std::int64_t index) { tab_index_ = static_cast<int>(in
 
 std::string Control::Described() const { return "control “" + name_ + "”"; }
 
-const PropertySetter* Control::FindSetter(std::string_view name) const {
-  static constexpr std::array kRows = {
-      PropertyRow{"AutoDeactivate", kNoEffect<bool>},
-      PropertyRow{"Enabled", SetThrough<&Control::SetEnabled>::kFunction},
-      PropertyRow{"Height", SetThrough<&Control::SetHeight>::kFunction},
-      PropertyRow{"HelpTag", SetThrough<&Control::SetHelpTag>::kFunction},
-      PropertyRow{"Index", kNoEffect<std::int64_t>},
-      PropertyRow{"InitialParent", kNoEffect<std::string_view>},
-      PropertyRow{"Left", SetThrough<&Control::SetLeft>::kFunction},
-      PropertyRow{"LockBottom", kNoEffect<bool>},
-      PropertyRow{"LockLeft", kNoEffect<bool>},
-      PropertyRow{"LockRight", kNoEffect<bool>},
-      PropertyRow{"LockTop", kNoEffect<bool>},
-      PropertyRow{"Name", SetThrough<&Control::SetName>::kFunction},
-      PropertyRow{"TabIndex", SetThrough<&Control::SetTabIndex>::kFunction},
-      PropertyRow{"TabPanelIndex", kNoEffect<std::int64_t>},
-      PropertyRow{"TabStop", kNoEffect<bool>},
-      PropertyRow{"Top", SetThrough<&Control::SetTop>::kFunction},
-      PropertyRow{"Visible", SetThrough<&Control::SetVisible>::kFunction},
-      PropertyRow{"Width", SetThrough<&Control::SetWidth>::kFunction},
-  };
-  return FindIn(kRows, name);
+const std::array<PropertyRow, 12> Control::kPlaceRows = {{
+    {"TabIndex", 0, kThrough<&Control::SetTabIndex>},
+    {"TabPanelIndex", 0},
+    {"LockBottom", false},
+    {"LockRight", false},
+    {"LockTop", false},
+    {"LockLeft", false},
+    {"Height", 0, kThrough<&Control::SetHeight>},
+    {"Width", 0, kThrough<&Control::SetWidth>},
+    {"Top", 0, kThrough<&Control::SetTop>},
+    {"Left", 0, kThrough<&Control::SetLeft>},
+    {"Index", -2147483648},  // no member of an array of controls
+    {"Name", "", kThrough<&Control::SetName>},
+}};
+
+PropertyTable ShapeControl::Properties() const {
+  static const auto rows = Joined(std::to_array<PropertyRow>({
+                                      {"Enabled", true, kThrough<&Control::SetEnabled>},
+                                      {"AutoDeactivate", true},
+                                      {"HelpTag", "", kThrough<&Control::SetHelpTag>},
+                                      {"Visible", true, kThrough<&Control::SetVisible>},
+                                      {"InitialParent", ""},
+                                      {"TabStop", true},
+                                  }),
+                                  kPlaceRows);
+  return rows;
 }
 
 namespace {
@@ -152,17 +154,19 @@ void TextControl::FitText() {
   if (fitted != Native()->font()) Native()->setFont(fitted);
 }
 
-const PropertySetter* TextControl::FindSetter(std::string_view name) const {
-  static constexpr std::array kRows = {
-      PropertyRow{"Bold", SetThrough<&TextControl::SetBold>::kFunction},
-      PropertyRow{"Italic", SetThrough<&TextControl::SetItalic>::kFunction},
-      PropertyRow{"TextFont", SetThrough<&TextControl::SetTextFont>::kFunction},
-      PropertyRow{"TextSize", SetThrough<&TextControl::SetTextSize>::kFunction},
-      PropertyRow{"TextUnit", kNoEffect<bool>},
-      PropertyRow{"Underline", SetThrough<&TextControl::SetUnderline>::kFunction},
-  };
-  const PropertySetter* own = FindIn(kRows, name);
-  return own != nullptr ? own : Control::FindSetter(name);
-}
+const std::array<PropertyRow, 6> TextControl::kFontRows = {{
+    {"Underline", false, kThrough<&TextControl::SetUnderline>},
+    {"Italic", false, kThrough<&TextControl::SetItalic>},
+    {"Bold", false, kThrough<&TextControl::SetBold>},
+    {"TextUnit", false},
+    {"TextSize", 12.0F, kThrough<&TextControl::SetTextSize>},
+    {"TextFont", "System", kThrough<&TextControl::SetTextFont>},
+}};
+
+const std::array<PropertyRow, 3> TextControl::kDataRows = {{
+    {"InitialParent", ""},
+    {"DataField", ""},
+    {"DataSource", ""},
+}};
 
 }  // namespace fundlet

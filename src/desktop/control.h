@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "desktop/property_set.h"
@@ -58,9 +59,11 @@ class Control : public PropertyTarget {
   virtual bool LosesFocusWithWindow() const { return false; }
 
  protected:
+  // The rows with which the table of every class of controls ends, but for single ones.
+  static const std::array<PropertyRow, 12> kPlaceRows;
+
   Control(Window& window, QWidget* native);
   std::string Described() const override;
-  const PropertySetter* FindSetter(std::string_view name) const override;
 
   Window& OwnerWindow() const { return window_; }
   // The size or a text has changed, so that the text may have to be narrowed anew.
@@ -79,6 +82,15 @@ class Control : public PropertyTarget {
   bool use_focus_ring_ = true;
 };
 
+// A control that only shows a shape.
+class ShapeControl : public Control {
+ public:
+  PropertyTable Properties() const override;
+
+ protected:
+  using Control::Control;
+};
+
 // The font of a control with a text: a family, or "System" for that of the desktop, and a size in
 // pixels. A text that is wider than its place is narrowed until it fits.
 class TextControl : public Control {
@@ -90,8 +102,11 @@ class TextControl : public Control {
   void SetUnderline(bool underline);
 
  protected:
+  // Rows that the tables of controls with a text have in common.
+  static const std::array<PropertyRow, 6> kFontRows;
+  static const std::array<PropertyRow, 3> kDataRows;
+
   using Control::Control;
-  const PropertySetter* FindSetter(std::string_view name) const override;
   void SetApplied() override { FitText(); }
   void FitText() override;
 

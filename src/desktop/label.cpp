@@ -42,19 +42,22 @@ void Label::SetTextColor(Colour colour) { SetColour(LabelOf(*this), QPalette::Wi
 
 void Label::SetLabelFor(const Control& control) { LabelOf(*this).setBuddy(control.Native()); }
 
-const PropertySetter* Label::FindSetter(std::string_view name) const {
-  static constexpr std::array kRows = {
-      PropertyRow{"DataField", kNoEffect<std::string_view>},
-      PropertyRow{"DataSource", kNoEffect<std::string_view>},
-      PropertyRow{"Multiline", kNoEffect<bool>},
-      PropertyRow{"Selectable", kNoEffect<bool>},
-      PropertyRow{"Text", SetThrough<&Label::SetText>::kFunction},
-      PropertyRow{"TextAlign", SetThrough<&Label::SetTextAlign>::kFunction},
-      PropertyRow{"TextColor", SetThrough<&Label::SetTextColor>::kFunction},
-      PropertyRow{"Transparent", kNoEffect<bool>},
-  };
-  const PropertySetter* own = FindIn(kRows, name);
-  return own != nullptr ? own : TextControl::FindSetter(name);
+PropertyTable Label::Properties() const {
+  static const auto rows = Joined(kDataRows, kFontRows,
+                                  std::to_array<PropertyRow>({
+                                      {"AutoDeactivate", true},
+                                      {"HelpTag", "", kThrough<&Control::SetHelpTag>},
+                                      {"Transparent", false},
+                                      {"Selectable", false},
+                                      {"Visible", true, kThrough<&Control::SetVisible>},
+                                      {"Enabled", true, kThrough<&Control::SetEnabled>},
+                                      {"Multiline", false},
+                                      {"TextColor", kBlack, kThrough<&Label::SetTextColor>},
+                                      {"TextAlign", 0, kThrough<&Label::SetTextAlign>},
+                                      {"Text", "", kThrough<&Label::SetText>},
+                                  }),
+                                  kPlaceRows, std::to_array<PropertyRow>({{"TabStop", true}}));
+  return rows;
 }
 
 }  // namespace fundlet

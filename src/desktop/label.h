@@ -16,8 +16,9 @@ class Label : public TextControl {
   // Makes this the label of a control: its text is the control's name for a screen reader.
   void SetLabelFor(const Control& control);
 
+  PropertyTable Properties() const override;
+
  protected:
-  const PropertySetter* FindSetter(std::string_view name) const override;
   std::string WidestText() const override { return Text(); }
 };
 

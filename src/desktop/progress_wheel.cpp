@@ -54,6 +54,6 @@ class WheelWidget : public QWidget {
 
 }  // namespace
 
-ProgressWheel::ProgressWheel(Window& window) : Control(window, new WheelWidget) {}
+ProgressWheel::ProgressWheel(Window& window) : ShapeControl(window, new WheelWidget) {}
 
 }  // namespace fundlet

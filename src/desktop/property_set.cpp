@@ -30,34 +30,28 @@ struct Encoder {
   }
 };
 
-const Property* FindProperty(std::span<const Property> properties, std::string_view name) {
+template <typename Named>
+const Named* FindNamed(std::span<const Named> all, std::string_view name) {
   const auto found =
-      std::find_if(properties.begin(), properties.end(),
-                   [name](const Property& property) { return property.name == name; });
-  return found != properties.end() ? &*found : nullptr;
+      std::find_if(all.begin(), all.end(), [name](const Named& one) { return one.name == name; });
+  return found != all.end() ? &*found : nullptr;
 }
 
 }  // namespace
 
-std::string EncodePropertySet(std::span<const Property> order, std::span<const Property> own) {
+std::string EncodePropertySet(PropertyTable table, std::span<const Property> own) {
   for (const Property& property : own) {
-    if (FindProperty(order, property.name) == nullptr) {
+    if (FindNamed(table, property.name) == nullptr) {
       throw PropertyError("no place for the property “" + std::string(property.name) + "”");
     }
   }
   std::string set;
-  for (const Property& entry : order) {
-    const Property* given = FindProperty(own, entry.name);
-    set.append(entry.name) += ' ';
-    std::visit(Encoder{set}, given != nullptr ? given->value : entry.value);
+  for (const PropertyRow& row : table) {
+    const Property* given = FindNamed(own, row.name);
+    set.append(row.name) += ' ';
+    std::visit(Encoder{set}, given != nullptr ? given->value : row.common);
   }
   return set;
-}
-
-const PropertySetter* FindIn(std::span<const PropertyRow> rows, std::string_view name) {
-  const auto found = std::find_if(rows.begin(), rows.end(),
-                                  [name](const PropertyRow& row) { return row.name == name; });
-  return found != rows.end() ? &found->set : nullptr;
 }
 
 namespace {
@@ -95,52 +89,61 @@ class Remainder {
   std::string_view rest_;
 };
 
-// Takes a value of the kind that the setter wants, and sets it.
-struct Applier {
-  PropertyTarget& target;
+// Takes a value of the kind that it is called with.
+struct ValueTaker {
   Remainder& rest;
 
-  void operator()(SetFunction<std::int64_t> set) const {
-    set(target, static_cast<std::int64_t>(rest.TakeBits<std::uint64_t>()));
+  PropertyValue operator()(std::int64_t) const {
+    return static_cast<std::int64_t>(rest.TakeBits<std::uint64_t>());
   }
-  void operator()(SetFunction<bool> set) const { set(target, rest.Take(1).front() != 0); }
-  void operator()(SetFunction<std::string_view> set) const {
+  PropertyValue operator()(bool) const { return rest.Take(1).front() != 0; }
+  PropertyValue operator()(std::string_view) const {
     const auto length = rest.TakeBits<std::uint32_t>();
-    set(target, rest.Take(length));
+    return rest.Take(length);
   }
-  void operator()(SetFunction<float> set) const {
-    set(target, std::bit_cast<float>(rest.TakeBits<std::uint32_t>()));
+  PropertyValue operator()(float) const {
+    return std::bit_cast<float>(rest.TakeBits<std::uint32_t>());
   }
-  void operator()(SetFunction<double> set) const {
-    set(target, std::bit_cast<double>(rest.TakeBits<std::uint64_t>()));
+  PropertyValue operator()(double) const {
+    return std::bit_cast<double>(rest.TakeBits<std::uint64_t>());
   }
-  void operator()(SetFunction<Colour> set) const {
+  PropertyValue operator()(Colour) const {
     const std::string_view bytes = rest.Take(4);
     const auto part = [bytes](std::size_t at) { return static_cast<std::uint8_t>(bytes[at]); };
-    set(target, Colour{part(0), part(1), part(2)});
+    return Colour{part(0), part(1), part(2)};
   }
 };
 
 }  // namespace
 
 void PropertyTarget::_SetProperties(std::string_view set) {
+  struct Applying {
+    bool& flag;
+    ~Applying() { flag = false; }
+  };
+  applying_set_ = true;
+  {
+    const Applying until_done{applying_set_};
+    ApplyEntries(set);
+  }
+  SetApplied();
+}
+
+void PropertyTarget::ApplyEntries(std::string_view set) {
   Remainder rest(set);
   std::string name;
-  applying_set_ = true;
   try {
     while (!rest.Empty()) {
       name.clear();
       name = rest.TakeName();
-      const PropertySetter* setter = FindSetter(name);
-      if (setter == nullptr) throw PropertyError("there is no such property");
-      std::visit(Applier{*this, rest}, *setter);
+      const PropertyRow* row = FindNamed(Properties(), name);
+      if (row == nullptr) throw PropertyError("there is no such property");
+      const PropertyValue value = std::visit(ValueTaker{rest}, row->common);
+      if (row->set != nullptr) row->set(*this, value);
     }
   } catch (const PropertyError& error) {
-    applying_set_ = false;
     throw PropertyError(Described() + ", property “" + name + "”: " + error.what());
   }
-  applying_set_ = false;
-  SetApplied();
 }
 
 }  // namespace fundlet

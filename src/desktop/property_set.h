@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <span>
 #include <stdexcept>
@@ -25,6 +27,8 @@ struct Colour {
   std::uint8_t blue;
   bool operator==(const Colour&) const = default;
 };
+inline constexpr Colour kBlack{0x00, 0x00, 0x00};
+inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
 
 using PropertyValue = std::variant<std::int64_t, bool, std::string_view, float, double, Colour>;
 
@@ -39,26 +43,37 @@ class PropertyError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// A set with the entries of `order`, in that order, each with its value from `own`, or with the one
-// given in `order` where `own` has none. PropertyError for a property of `own` that `order` lacks.
-std::string EncodePropertySet(std::span<const Property> order, std::span<const Property> own);
-
-// Something that has properties: how one value is set on it.
 class PropertyTarget;
-template <typename Value>
-using SetFunction = void (*)(PropertyTarget&, Value);
-using PropertySetter =
-    std::variant<SetFunction<std::int64_t>, SetFunction<bool>, SetFunction<std::string_view>,
-                 SetFunction<float>, SetFunction<double>, SetFunction<Colour>>;
 
+// One property of a class of objects, for the table of all of them in the order of their entries.
 struct PropertyRow {
   std::string_view name;
-  PropertySetter set;
+  PropertyValue common;  // where an object says no other; it also tells the kind of the value
+  // Sets a value of that kind on an object of the class; null where this platform has no use for
+  // the property, whose value is then read and dropped.
+  void (*set)(PropertyTarget&, const PropertyValue&) = nullptr;
 };
+using PropertyTable = std::span<const PropertyRow>;
 
+// The tables one behind the other, as one.
+template <std::size_t... kSizes>
+constexpr auto Joined(const std::array<PropertyRow, kSizes>&... parts) {
+  std::array<PropertyRow, (kSizes + ...)> rows{};
+  auto at = rows.begin();
+  ((at = std::copy(parts.begin(), parts.end(), at)), ...);
+  return rows;
+}
+
+// A set with one entry for each row, in their order, each with its value from `own`, or with the
+// common one where `own` has none. PropertyError for a property of `own` that the table lacks.
+std::string EncodePropertySet(PropertyTable table, std::span<const Property> own);
+
+// Something that has properties.
 class PropertyTarget {
  public:
   virtual ~PropertyTarget() = default;
+  // The properties that objects of this class have.
+  virtual PropertyTable Properties() const = 0;
   // Sets each named property in turn. PropertyError for a name that the object does not know and
   // for a set that ends in the middle of an entry; the entries before it have been set.
   void _SetProperties(std::string_view set);
@@ -66,31 +81,27 @@ class PropertyTarget {
  protected:
   // What the object is called in an error.
   virtual std::string Described() const = 0;
-  // The setter of a property; null where the object does not have it.
-  virtual const PropertySetter* FindSetter(std::string_view name) const = 0;
   // Whether a set is being applied, and what is to be done once when it has been.
   bool ApplyingSet() const { return applying_set_; }
   virtual void SetApplied() {}
 
  private:
+  void ApplyEntries(std::string_view set);
+
   bool applying_set_ = false;
 };
 
-// The row of a table of properties that is set through a member function of its class.
 template <auto Method>
-struct SetThrough;
+struct PropertyMethod;
 template <typename Class, typename Value, void (Class::*Method)(Value)>
-struct SetThrough<Method> {
-  static void Call(PropertyTarget& target, Value value) {
-    (static_cast<Class&>(target).*Method)(value);
+struct PropertyMethod<Method> {
+  static void Set(PropertyTarget& target, const PropertyValue& value) {
+    (static_cast<Class&>(target).*Method)(std::get<Value>(value));
   }
-  static constexpr SetFunction<Value> kFunction = &Call;
 };
 
-// A property that this platform has no use for: its value is read, and nothing follows.
-template <typename Value>
-inline constexpr SetFunction<Value> kNoEffect = [](PropertyTarget&, Value) {};
-
-const PropertySetter* FindIn(std::span<const PropertyRow> rows, std::string_view name);
+// How a row sets its property: through a member function of the class.
+template <auto Method>
+inline constexpr auto kThrough = &PropertyMethod<Method>::Set;
 
 }  // namespace fundlet

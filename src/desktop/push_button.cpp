@@ -69,15 +69,21 @@ int PushButton::TextRoom() const {
   return Width() - kFrames;
 }
 
-const PropertySetter* PushButton::FindSetter(std::string_view name) const {
-  static constexpr std::array kRows = {
-      PropertyRow{"ButtonStyle", kNoEffect<std::int64_t>},
-      PropertyRow{"Cancel", SetThrough<&PushButton::SetCancel>::kFunction},
-      PropertyRow{"Caption", SetThrough<&PushButton::SetCaption>::kFunction},
-      PropertyRow{"Default", SetThrough<&PushButton::SetDefault>::kFunction},
-  };
-  const PropertySetter* own = FindIn(kRows, name);
-  return own != nullptr ? own : TextControl::FindSetter(name);
+PropertyTable PushButton::Properties() const {
+  static const auto rows = Joined(std::to_array<PropertyRow>({{"InitialParent", ""}}), kFontRows,
+                                  std::to_array<PropertyRow>({
+                                      {"ButtonStyle", 0},
+                                      {"AutoDeactivate", true},
+                                      {"HelpTag", "", kThrough<&Control::SetHelpTag>},
+                                      {"Visible", true, kThrough<&Control::SetVisible>},
+                                      {"Enabled", true, kThrough<&Control::SetEnabled>},
+                                      {"Cancel", false, kThrough<&PushButton::SetCancel>},
+                                      {"Default", false, kThrough<&PushButton::SetDefault>},
+                                      {"Caption", "", kThrough<&PushButton::SetCaption>},
+                                      {"TabStop", true},
+                                  }),
+                                  kPlaceRows);
+  return rows;
 }
 
 }  // namespace fundlet

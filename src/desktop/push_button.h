@@ -24,8 +24,9 @@ class PushButton : public TextControl {
 
   std::function<void(PushButton&)> Action;
 
+  PropertyTable Properties() const override;
+
  protected:
-  const PropertySetter* FindSetter(std::string_view name) const override;
   std::string WidestText() const override { return Caption(); }
   int TextRoom() const override;
 };

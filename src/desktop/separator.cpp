@@ -24,6 +24,6 @@ class RuleWidget : public QWidget {
 
 }  // namespace
 
-Separator::Separator(Window& window) : Control(window, new RuleWidget) {}
+Separator::Separator(Window& window) : ShapeControl(window, new RuleWidget) {}
 
 }  // namespace fundlet

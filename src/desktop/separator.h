@@ -5,7 +5,7 @@
 namespace fundlet {
 
 // A thin horizontal rule.
-class Separator : public Control {
+class Separator : public ShapeControl {
  public:
   explicit Separator(Window& window);
 };

@@ -108,32 +108,40 @@ void TextArea::FireGotFocus() {
   if (GotFocus) GotFocus(*this);
 }
 
-const PropertySetter* TextArea::FindSetter(std::string_view name) const {
-  static constexpr std::array kRows = {
-      PropertyRow{"AcceptTabs", kNoEffect<bool>},
-      PropertyRow{"Alignment", kNoEffect<std::int64_t>},
-      PropertyRow{"AutomaticallyCheckSpelling", kNoEffect<bool>},
-      PropertyRow{"BackColor", SetThrough<&TextArea::SetBackColor>::kFunction},
-      PropertyRow{"Border", SetThrough<&TextArea::SetBorder>::kFunction},
-      PropertyRow{"DataField", kNoEffect<std::string_view>},
-      PropertyRow{"DataSource", kNoEffect<std::string_view>},
-      PropertyRow{"Format", kNoEffect<std::string_view>},
-      PropertyRow{"HideSelection", kNoEffect<bool>},
-      PropertyRow{"LimitText", kNoEffect<std::int64_t>},
-      PropertyRow{"LineHeight", kNoEffect<double>},
-      PropertyRow{"LineSpacing", kNoEffect<double>},
-      PropertyRow{"Mask", kNoEffect<std::string_view>},
-      PropertyRow{"Multiline", kNoEffect<bool>},
-      PropertyRow{"ReadOnly", SetThrough<&TextArea::SetReadOnly>::kFunction},
-      PropertyRow{"ScrollbarHorizontal", SetThrough<&TextArea::SetScrollbarHorizontal>::kFunction},
-      PropertyRow{"ScrollbarVertical", SetThrough<&TextArea::SetScrollbarVertical>::kFunction},
-      PropertyRow{"Styled", kNoEffect<bool>},
-      PropertyRow{"Text", SetThrough<&TextArea::SetText>::kFunction},
-      PropertyRow{"TextColor", SetThrough<&TextArea::SetTextColor>::kFunction},
-      PropertyRow{"UseFocusRing", SetThrough<&Control::SetUseFocusRing>::kFunction},
-  };
-  const PropertySetter* own = FindIn(kRows, name);
-  return own != nullptr ? own : TextControl::FindSetter(name);
+PropertyTable TextArea::Properties() const {
+  static const auto rows =
+      Joined(kDataRows,
+             std::to_array<PropertyRow>({
+                 {"AutomaticallyCheckSpelling", true},
+                 {"Alignment", 0},
+                 {"AcceptTabs", false},
+                 {"LimitText", 0},
+                 {"ReadOnly", true, kThrough<&TextArea::SetReadOnly>},
+                 {"Mask", ""},
+                 {"Text", "", kThrough<&TextArea::SetText>},
+             }),
+             kFontRows,
+             std::to_array<PropertyRow>({
+                 {"LineSpacing", 1.0},
+                 {"LineHeight", 0.0},
+                 {"HideSelection", true},
+                 {"AutoDeactivate", true},
+                 {"HelpTag", "", kThrough<&Control::SetHelpTag>},
+                 {"Visible", true, kThrough<&Control::SetVisible>},
+                 {"Format", ""},
+                 {"Enabled", true, kThrough<&Control::SetEnabled>},
+                 {"BackColor", kWhite, kThrough<&TextArea::SetBackColor>},
+                 {"TextColor", kBlack, kThrough<&TextArea::SetTextColor>},
+                 {"UseFocusRing", false, kThrough<&Control::SetUseFocusRing>},
+                 {"Styled", false},
+                 {"ScrollbarVertical", true, kThrough<&TextArea::SetScrollbarVertical>},
+                 {"ScrollbarHorizontal", false, kThrough<&TextArea::SetScrollbarHorizontal>},
+                 {"Multiline", true},
+                 {"Border", true, kThrough<&TextArea::SetBorder>},
+                 {"TabStop", true},
+             }),
+             kPlaceRows);
+  return rows;
 }
 
 }  // namespace fundlet

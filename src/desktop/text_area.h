@@ -29,8 +29,7 @@ class TextArea : public TextControl {
 
   void FireGotFocus() override;
 
- protected:
-  const PropertySetter* FindSetter(std::string_view name) const override;
+  PropertyTable Properties() const override;
 };
 
 }  // namespace fundlet

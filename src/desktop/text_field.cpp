@@ -183,27 +183,34 @@ void TextField::FireLostFocus() {
   if (LostFocus) LostFocus(*this);
 }
 
-const PropertySetter* TextField::FindSetter(std::string_view name) const {
-  static constexpr std::array kRows = {
-      PropertyRow{"AcceptTabs", kNoEffect<bool>},
-      PropertyRow{"Alignment", SetThrough<&TextField::SetAlignment>::kFunction},
-      PropertyRow{"AutomaticallyCheckSpelling", kNoEffect<bool>},
-      PropertyRow{"BackColor", SetThrough<&TextField::SetBackColor>::kFunction},
-      PropertyRow{"Border", SetThrough<&TextField::SetBorder>::kFunction},
-      PropertyRow{"CueText", SetThrough<&TextField::SetCueText>::kFunction},
-      PropertyRow{"DataField", kNoEffect<std::string_view>},
-      PropertyRow{"DataSource", kNoEffect<std::string_view>},
-      PropertyRow{"Format", kNoEffect<std::string_view>},
-      PropertyRow{"LimitText", SetThrough<&TextField::SetLimitText>::kFunction},
-      PropertyRow{"Mask", kNoEffect<std::string_view>},
-      PropertyRow{"Password", SetThrough<&TextField::SetPassword>::kFunction},
-      PropertyRow{"ReadOnly", SetThrough<&TextField::SetReadOnly>::kFunction},
-      PropertyRow{"Text", SetThrough<&TextField::SetText>::kFunction},
-      PropertyRow{"TextColor", SetThrough<&TextField::SetTextColor>::kFunction},
-      PropertyRow{"UseFocusRing", SetThrough<&Control::SetUseFocusRing>::kFunction},
-  };
-  const PropertySetter* own = FindIn(kRows, name);
-  return own != nullptr ? own : TextControl::FindSetter(name);
+PropertyTable TextField::Properties() const {
+  static const auto rows = Joined(kDataRows,
+                                  std::to_array<PropertyRow>({
+                                      {"AutomaticallyCheckSpelling", false},
+                                      {"Alignment", 0, kThrough<&TextField::SetAlignment>},
+                                      {"AcceptTabs", false},
+                                      {"LimitText", 0, kThrough<&TextField::SetLimitText>},
+                                      {"ReadOnly", false, kThrough<&TextField::SetReadOnly>},
+                                      {"Mask", ""},
+                                      {"Text", "", kThrough<&TextField::SetText>},
+                                      {"CueText", "", kThrough<&TextField::SetCueText>},
+                                  }),
+                                  kFontRows,
+                                  std::to_array<PropertyRow>({
+                                      {"AutoDeactivate", true},
+                                      {"HelpTag", "", kThrough<&Control::SetHelpTag>},
+                                      {"Visible", true, kThrough<&Control::SetVisible>},
+                                      {"Format", ""},
+                                      {"Enabled", true, kThrough<&Control::SetEnabled>},
+                                      {"BackColor", kWhite, kThrough<&TextField::SetBackColor>},
+                                      {"TextColor", kBlack, kThrough<&TextField::SetTextColor>},
+                                      {"UseFocusRing", true, kThrough<&Control::SetUseFocusRing>},
+                                      {"Password", false, kThrough<&TextField::SetPassword>},
+                                      {"Border", true, kThrough<&TextField::SetBorder>},
+                                      {"TabStop", true},
+                                  }),
+                                  kPlaceRows);
+  return rows;
 }
 
 }  // namespace fundlet

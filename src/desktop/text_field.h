@@ -43,8 +43,9 @@ class TextField : public TextControl {
   void FireLostFocus() override;
   bool LosesFocusWithWindow() const override { return true; }
 
+  PropertyTable Properties() const override;
+
  protected:
-  const PropertySetter* FindSetter(std::string_view name) const override;
   std::string WidestText() const override { return longest_text_; }
   int TextRoom() const override;
 

@@ -40,6 +40,7 @@ class Window : public PropertyTarget {
   void SetWidth(std::int64_t width);
   void SetHeight(std::int64_t height);
   void SetTitle(std::string_view title);
+  PropertyTable Properties() const override;
 
   // The menus of this window; without any, it shows the application's.
   void SetMenuBar(fundlet::MenuBar& menu_bar) { menu_bar_ = &menu_bar; }
@@ -103,11 +104,8 @@ class Window : public PropertyTarget {
 
  protected:
   std::string Described() const override;
-  const PropertySetter* FindSetter(std::string_view name) const override;
 
  private:
-  struct Properties;  // the setters that only a property set uses
-
   void FirstShow();
   Control* ApplyTabOrder();  // gives the first control of the order, null where there is none
   bool AbleByItself(const MenuItem& item) const;

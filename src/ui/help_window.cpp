@@ -5,7 +5,7 @@
 #include "ui/default_menu.h"
 #include "ui/global_module.h"
 #include "ui/help_text.h"
-#include "ui/property_orders.h"
+#include "ui/main_layout.h"
 
 namespace fundlet {
 
@@ -39,10 +39,12 @@ void aHelpWindow::ShowHelp() {
 
 void aHelpWindow::Layout() {
   static constexpr Property kOwn[] = {
-      {"Title", "Fundlet Help"}, {"Width", kWidth},    {"Height", kHeight}, {"MinWidth", 400},
-      {"MinHeight", 300},        {"Resizeable", true}, {"Placement", 2},
+      {"Title", "Fundlet Help"}, {"Width", kWidth},
+      {"Height", kHeight},       {"MinWidth", 400},
+      {"MinHeight", 300},        {"Resizeable", true},
+      {"Placement", 2},          {"BackColor", main_layout::kPaleGreen},
   };
-  _SetProperties(EncodePropertySet(order::OfWindow(), kOwn));
+  _SetProperties(EncodePropertySet(Properties(), kOwn));
 }
 
 void aHelpWindow::CreateControls() { _CreateControls0(); }
@@ -51,10 +53,10 @@ void aHelpWindow::_CreateControls0() {
   const std::string text = HelpText();
   const Property text_field[] = {
       {"Name", "TextField"},   {"Left", 20},    {"Top", 20},    {"Width", kTextWidth},
-      {"Height", kTextHeight}, {"TabIndex", 0}, {"Text", text},
+      {"Height", kTextHeight}, {"TabIndex", 0}, {"Text", text}, {"TextFont", "Geneva"},
   };
   _AddControl("TextField", std::make_unique<fundlet::TextArea>(*this));
-  TextField()._SetProperties(EncodePropertySet(order::OfTextArea(), text_field));
+  TextField()._SetProperties(EncodePropertySet(TextField().Properties(), text_field));
   TextField().GotFocus = [this](fundlet::TextArea& area) { TextField_GotFocus(area); };
 
   static constexpr Property kDoneButton[] = {
@@ -62,7 +64,7 @@ void aHelpWindow::_CreateControls0() {
       {"Height", 18},         {"TabIndex", 1}, {"Caption", "Close"}, {"Default", true},
   };
   _AddControl("DoneButton", std::make_unique<PushButton>(*this));
-  DoneButton()._SetProperties(EncodePropertySet(order::OfPushButton(), kDoneButton));
+  DoneButton()._SetProperties(EncodePropertySet(DoneButton().Properties(), kDoneButton));
   DoneButton().Action = [this](PushButton& button) { DoneButton_Action(button); };
 }
 

@@ -1,12 +1,9 @@
 #include "ui/main_layout.h"
 
 #include <algorithm>
-#include <array>
-#include <vector>
+#include <iterator>
 
-#include "desktop/property_set.h"
 #include "services/text.h"
-#include "ui/property_orders.h"
 
 namespace fundlet::main_layout {
 
@@ -94,21 +91,6 @@ constexpr Exception kExceptions[] = {
     {"RestoreButton", {"LockRight", true}},
 };
 
-std::span<const Property> OrderOf(ControlClass control_class) {
-  switch (control_class) {
-    case Label:
-      return order::OfLabel();
-    case TextField:
-      return order::OfTextField();
-    case PushButton:
-      return order::OfPushButton();
-    case Separator:
-    case ProgressWheel:
-      break;
-  }
-  return order::OfRule();
-}
-
 void AddTextProperties(const ControlRow& row, std::vector<Property>& own) {
   if (row.control_class == Label) own.push_back({"Text", row.text});
   if (row.control_class == PushButton) own.push_back({"Caption", row.text});
@@ -126,12 +108,13 @@ std::span<const ControlRow> Controls() { return kControls; }
 std::span<const FieldRow> Fields() { return kFields; }
 const FieldRow& Field(FocusCode code) { return Fields()[static_cast<std::size_t>(code) - 1]; }
 
-std::string WindowSet() {
-  static constexpr Property kOwn[] = {{"Title", "Fundlet"}, {"Width", 740}, {"Height", 220}};
-  return EncodePropertySet(order::OfWindow(), kOwn);
+std::span<const Property> WindowProperties() {
+  static constexpr Property kOwn[] = {
+      {"Title", "Fundlet"}, {"Width", 740}, {"Height", 220}, {"BackColor", kPaleGreen}};
+  return kOwn;
 }
 
-std::string ControlSet(const ControlRow& row) {
+std::vector<Property> ControlProperties(const ControlRow& row) {
   std::vector<Property> own = {
       {"Name", row.name},        {"Left", row.left},     {"Top", row.top},
       {"Width", row.width},      {"Height", row.height}, {"TabIndex", row.tab_index},
@@ -141,7 +124,7 @@ std::string ControlSet(const ControlRow& row) {
   for (const Exception& exception : kExceptions) {
     if (exception.control == row.name) own.push_back(exception.property);
   }
-  return EncodePropertySet(OrderOf(row.control_class), own);
+  return own;
 }
 
 }  // namespace fundlet::main_layout

@@ -1,14 +1,16 @@
 #pragma once
 
-#include <optional>
 #include <span>
-#include <string>
 #include <string_view>
+#include <vector>
 
+#include "desktop/property_set.h"
 #include "plan/entry_form.h"
 
 // The main window as data: what it is made of, where everything stands and what it says.
 namespace fundlet::main_layout {
+
+inline constexpr Colour kPaleGreen{0xCC, 0xFF, 0xCC};  // the background of the windows
 
 enum class ControlClass { Label, TextField, PushButton, Separator, ProgressWheel };
 
@@ -40,8 +42,8 @@ std::span<const ControlRow> Controls();
 std::span<const FieldRow> Fields();
 const FieldRow& Field(FocusCode code);
 
-// The property sets.
-std::string WindowSet();
-std::string ControlSet(const ControlRow& row);
+// What the window and each control say other than their class does.
+std::span<const Property> WindowProperties();
+std::vector<Property> ControlProperties(const ControlRow& row);
 
 }  // namespace fundlet::main_layout

@@ -1,4 +1,3 @@
-#include <array>
 #include <functional>
 #include <memory>
 
@@ -102,7 +101,7 @@ constexpr MenuHandler kMenuHandlers[] = {
 
 void aFundletWindow::Layout() {
   SetMenuBar(DefaultMenu::Instance());
-  _SetProperties(main_layout::WindowSet());
+  _SetProperties(EncodePropertySet(Properties(), main_layout::WindowProperties()));
 }
 
 void aFundletWindow::CreateControls() { _CreateControls0(); }
@@ -111,7 +110,9 @@ void aFundletWindow::_CreateControls0() {
   for (const main_layout::ControlRow& row : main_layout::Controls()) {
     const std::string name(row.name);
     _AddControl(name, NewControl(row.control_class, *this));
-    _ControlByName(name)._SetProperties(main_layout::ControlSet(row));
+    Control& control = _ControlByName(name);
+    control._SetProperties(
+        EncodePropertySet(control.Properties(), main_layout::ControlProperties(row)));
     BindHandlers(*this, name);
   }
   for (const main_layout::FieldRow& row : main_layout::Fields()) {

@@ -4,14 +4,13 @@
 
 #include "tests/ui/window_fixture.h"
 #include "ui/main_layout.h"
-#include "ui/property_orders.h"
 
 namespace fundlet {
 namespace {
 
 using namespace std::string_literals;
 
-std::string Encoded(const Property& property) { return EncodePropertySet({&property, 1}, {}); }
+std::string Encoded(const PropertyRow& row) { return EncodePropertySet({&row, 1}, {}); }
 
 TEST(PropertySet, EncodesEachKindOfValue) {
   EXPECT_EQ(Encoded({"Width", 740}), "Width \xE4\x02\0\0\0\0\0\0"s);
@@ -31,12 +30,17 @@ std::string Int(int value) {
 
 const std::string kAlone = "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s;
 
-TEST(PropertySet, HasTheEntriesOfItsClassInTheirOrder) {
+using AppliedSet = StartedTest;
+using Registry = StartedTest;
+
+TEST_F(AppliedSet, HasTheEntriesOfItsClassInTheirOrder) {
   const std::string unlocked = "LockBottom \0LockRight \0LockTop \0LockLeft \0"s;
   const auto set_of = [](std::string_view name) {
     const auto rows = main_layout::Controls();
-    return main_layout::ControlSet(
-        *std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.name == name; }));
+    const auto row =
+        std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.name == name; });
+    return EncodePropertySet(Main()._ControlByName(name).Properties(),
+                             main_layout::ControlProperties(*row));
   };
   const std::string font = "TextUnit \0TextSize \0\0\x40\x41TextFont \x06\0\0\0System"s;
   EXPECT_EQ(
@@ -55,7 +59,7 @@ TEST(PropertySet, HasTheEntriesOfItsClassInTheirOrder) {
                 Int(24) + "TabPanelIndex " + Int(0) + unlocked + "Height " + Int(16) + "Width " +
                 Int(16) + "Top " + Int(141) + "Left " + Int(469) + kAlone +
                 "Name \x08\0\0\0Windmill"s);
-  EXPECT_EQ(main_layout::WindowSet(),
+  EXPECT_EQ(EncodePropertySet(Main().Properties(), main_layout::WindowProperties()),
             "Width " + Int(740) + "Height " + Int(220) + "MinWidth " + Int(64) + "MinHeight " +
                 Int(64) + "MaxWidth " + Int(32000) + "MaxHeight " + Int(32000) + "Frame " + Int(0) +
                 "Title \x07\0\0\0FundletCloseButton \x01Resizeable \0MaximizeButton \0"
@@ -66,9 +70,6 @@ TEST(PropertySet, HasTheEntriesOfItsClassInTheirOrder) {
                 "FullScreen \0HasBackColor \x01"
                 "BackColor \xCC\xFF\xCC\0MenuBarVisible \x01"s);
 }
-
-using AppliedSet = StartedTest;
-using Registry = StartedTest;
 
 std::string ErrorOf(const std::function<void()>& action) {
   try {
@@ -99,7 +100,7 @@ TEST_F(AppliedSet, ASetThatCannotBeAppliedNamesTheObjectAndTheProperty) {
             "window “Fundlet”, property “TabIndex”: there is no such property");
   EXPECT_EQ(ErrorOf([] {
               const Property caption{"Caption", "x"};
-              EncodePropertySet(order::OfLabel(), {&caption, 1});
+              EncodePropertySet(Main().StaticText1().Properties(), {&caption, 1});
             }),
             "no place for the property “Caption”");
 }
