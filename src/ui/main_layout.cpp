@@ -67,23 +67,23 @@ constexpr int kRightAligned = 3;  // of a field
 constexpr int kLabelRightAligned = 2;
 
 constexpr FieldRow kFields[] = {
-    {FocusCode::StartYear, "StartYearField", "StaticText1", kLeftAligned},
-    {FocusCode::StartAge, "StartAgeField", "StaticText2", kLeftAligned},
-    {FocusCode::YearsLeft, "YearsLeftField", "StaticText4", kLeftAligned},
-    {FocusCode::COLA, "COLAField", "StaticText6", kRightAligned},
-    {FocusCode::StartFundlet, "StartFundletField", "StaticText8", kLeftAligned},
-    {FocusCode::FundletAPR, "FundletAPRField", "StaticText9", kRightAligned},
-    {FocusCode::SocialSecurity, "SocialSecurityField", "StaticText11", kLeftAligned},
-    {FocusCode::EndFundlet, "EndFundletField", "StaticText13", kLeftAligned},
+    {"StartYearField", "StaticText1", kLeftAligned},
+    {"StartAgeField", "StaticText2", kLeftAligned},
+    {"YearsLeftField", "StaticText4", kLeftAligned},
+    {"COLAField", "StaticText6", kRightAligned},
+    {"StartFundletField", "StaticText8", kLeftAligned},
+    {"FundletAPRField", "StaticText9", kRightAligned},
+    {"SocialSecurityField", "StaticText11", kLeftAligned},
+    {"EndFundletField", "StaticText13", kLeftAligned},
 };
 
 // What single controls have beyond what their class and their row say.
-struct Exception {
+struct OwnProperty {
   std::string_view control;
   Property property;
 };
 
-constexpr Exception kExceptions[] = {
+constexpr OwnProperty kOwnProperties[] = {
     {"AnnualDrawField", {"TextAlign", kLabelRightAligned}},
     {"Windmill", {"Visible", false}},
     {"CalculateButton", {"Default", true}},
@@ -121,8 +121,8 @@ std::vector<Property> ControlProperties(const ControlRow& row) {
       {"HelpTag", row.help_tag},
   };
   AddTextProperties(row, own);
-  for (const Exception& exception : kExceptions) {
-    if (exception.control == row.name) own.push_back(exception.property);
+  for (const auto& [control, property] : kOwnProperties) {
+    if (control == row.name) own.push_back(property);
   }
   return own;
 }

@@ -30,7 +30,6 @@ struct ControlRow {
 // One entry field beyond its row: the parameter behind it, the label that names it, and the side
 // on which its text stands. Its text at creation is the longest that can be typed.
 struct FieldRow {
-  FocusCode code;
   std::string_view field;
   std::string_view label;
   int alignment;

@@ -176,8 +176,8 @@ bool aFundletWindow::_HelpFundlet_Action() {
   return false;
 }
 
-fundlet::TextField& aFundletWindow::Field(FocusCode field) const {
-  return ControlOf<fundlet::TextField>(main_layout::Field(field).field);
+TextField& aFundletWindow::Field(FocusCode field) const {
+  return ControlOf<TextField>(main_layout::Field(field).field);
 }
 
 std::string aFundletWindow::Text(FocusCode field) const { return Field(field).Text(); }
@@ -187,7 +187,7 @@ void aFundletWindow::SetText(FocusCode field, const std::string& text) {
 }
 
 void aFundletWindow::SelectAll(FocusCode field) {
-  fundlet::TextField& control = Field(field);
+  TextField& control = Field(field);
   control.SetSelStart(0);
   control.SetSelLength(static_cast<std::int64_t>(Len(control.Text())));
 }

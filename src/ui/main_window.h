@@ -31,52 +31,34 @@ class aFundletWindow : public Window, private EntryForm {
   void _CreateControls0();
 
   // The controls, looked up by their names at each call.
-  fundlet::Label& StaticText1() const { return ControlOf<fundlet::Label>("StaticText1"); }
-  fundlet::TextField& StartYearField() const {
-    return ControlOf<fundlet::TextField>("StartYearField");
-  }
-  fundlet::Label& StaticText2() const { return ControlOf<fundlet::Label>("StaticText2"); }
-  fundlet::TextField& StartAgeField() const {
-    return ControlOf<fundlet::TextField>("StartAgeField");
-  }
-  fundlet::Label& StaticText3() const { return ControlOf<fundlet::Label>("StaticText3"); }
-  fundlet::Label& StaticText4() const { return ControlOf<fundlet::Label>("StaticText4"); }
-  fundlet::TextField& YearsLeftField() const {
-    return ControlOf<fundlet::TextField>("YearsLeftField");
-  }
-  fundlet::Label& StaticText5() const { return ControlOf<fundlet::Label>("StaticText5"); }
-  fundlet::Label& StaticText6() const { return ControlOf<fundlet::Label>("StaticText6"); }
-  fundlet::TextField& COLAField() const { return ControlOf<fundlet::TextField>("COLAField"); }
-  fundlet::Label& StaticText7() const { return ControlOf<fundlet::Label>("StaticText7"); }
-  fundlet::Separator& Separator1() const { return ControlOf<fundlet::Separator>("Separator1"); }
-  fundlet::Label& StaticText8() const { return ControlOf<fundlet::Label>("StaticText8"); }
-  fundlet::TextField& StartFundletField() const {
-    return ControlOf<fundlet::TextField>("StartFundletField");
-  }
-  fundlet::Label& StaticText9() const { return ControlOf<fundlet::Label>("StaticText9"); }
-  fundlet::TextField& FundletAPRField() const {
-    return ControlOf<fundlet::TextField>("FundletAPRField");
-  }
-  fundlet::Label& StaticText10() const { return ControlOf<fundlet::Label>("StaticText10"); }
-  fundlet::Label& StaticText11() const { return ControlOf<fundlet::Label>("StaticText11"); }
-  fundlet::TextField& SocialSecurityField() const {
-    return ControlOf<fundlet::TextField>("SocialSecurityField");
-  }
-  fundlet::Separator& Separator2() const { return ControlOf<fundlet::Separator>("Separator2"); }
-  fundlet::Label& StaticText13() const { return ControlOf<fundlet::Label>("StaticText13"); }
-  fundlet::PushButton& CalculateButton() const {
-    return ControlOf<fundlet::PushButton>("CalculateButton");
-  }
-  fundlet::TextField& EndFundletField() const {
-    return ControlOf<fundlet::TextField>("EndFundletField");
-  }
-  fundlet::Label& AnnualDrawField() const { return ControlOf<fundlet::Label>("AnnualDrawField"); }
-  fundlet::ProgressWheel& Windmill() const { return ControlOf<fundlet::ProgressWheel>("Windmill"); }
-  fundlet::PushButton& PrintButton() const { return ControlOf<fundlet::PushButton>("PrintButton"); }
-  fundlet::PushButton& SaveButton() const { return ControlOf<fundlet::PushButton>("SaveButton"); }
-  fundlet::PushButton& RestoreButton() const {
-    return ControlOf<fundlet::PushButton>("RestoreButton");
-  }
+  Label& StaticText1() const { return ControlOf<Label>("StaticText1"); }
+  TextField& StartYearField() const { return ControlOf<TextField>("StartYearField"); }
+  Label& StaticText2() const { return ControlOf<Label>("StaticText2"); }
+  TextField& StartAgeField() const { return ControlOf<TextField>("StartAgeField"); }
+  Label& StaticText3() const { return ControlOf<Label>("StaticText3"); }
+  Label& StaticText4() const { return ControlOf<Label>("StaticText4"); }
+  TextField& YearsLeftField() const { return ControlOf<TextField>("YearsLeftField"); }
+  Label& StaticText5() const { return ControlOf<Label>("StaticText5"); }
+  Label& StaticText6() const { return ControlOf<Label>("StaticText6"); }
+  TextField& COLAField() const { return ControlOf<TextField>("COLAField"); }
+  Label& StaticText7() const { return ControlOf<Label>("StaticText7"); }
+  Separator& Separator1() const { return ControlOf<Separator>("Separator1"); }
+  Label& StaticText8() const { return ControlOf<Label>("StaticText8"); }
+  TextField& StartFundletField() const { return ControlOf<TextField>("StartFundletField"); }
+  Label& StaticText9() const { return ControlOf<Label>("StaticText9"); }
+  TextField& FundletAPRField() const { return ControlOf<TextField>("FundletAPRField"); }
+  Label& StaticText10() const { return ControlOf<Label>("StaticText10"); }
+  Label& StaticText11() const { return ControlOf<Label>("StaticText11"); }
+  TextField& SocialSecurityField() const { return ControlOf<TextField>("SocialSecurityField"); }
+  Separator& Separator2() const { return ControlOf<Separator>("Separator2"); }
+  Label& StaticText13() const { return ControlOf<Label>("StaticText13"); }
+  PushButton& CalculateButton() const { return ControlOf<PushButton>("CalculateButton"); }
+  TextField& EndFundletField() const { return ControlOf<TextField>("EndFundletField"); }
+  Label& AnnualDrawField() const { return ControlOf<Label>("AnnualDrawField"); }
+  ProgressWheel& Windmill() const { return ControlOf<ProgressWheel>("Windmill"); }
+  PushButton& PrintButton() const { return ControlOf<PushButton>("PrintButton"); }
+  PushButton& SaveButton() const { return ControlOf<PushButton>("SaveButton"); }
+  PushButton& RestoreButton() const { return ControlOf<PushButton>("RestoreButton"); }
 
   // The plan's operations on this window's plan.
   void CalculateDraw(double draw);
@@ -183,7 +165,7 @@ class aFundletWindow : public Window, private EntryForm {
   void ShowResult(const std::string& text) override;
   void Alert(const std::string& message) override;
 
-  fundlet::TextField& Field(FocusCode field) const;
+  TextField& Field(FocusCode field) const;
   template <typename ItemClass>
   ItemClass& Item(const char* name) const;
   void PlaceOnScreen();
