@@ -14,6 +14,7 @@ void MyApplication::_EarlyStartup() {
 void MyApplication::_NewAppInstance() {
   static MyApplication application;
   application.MenuBar = &DefaultMenu::Instance();
+  application.Report = &GlobalModule::AlertBox;
   RegisterApplication(application);
 }
 

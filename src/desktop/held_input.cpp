@@ -67,11 +67,9 @@ HeldInput::HeldInput() {
   instance = this;
   QCoreApplication::instance()->installEventFilter(this);
   SetBackgroundTask(&HeldInput::Pump);
-  ProgramGate::Instance().SetIdleHandler([this] { ScheduleReplay(); });
 }
 
 HeldInput::~HeldInput() {
-  ProgramGate::Instance().SetIdleHandler(nullptr);
   SetBackgroundTask(nullptr);
   instance = nullptr;
 }

@@ -23,6 +23,8 @@ class HeldInput : public QObject {
   ~HeldInput() override;
 
   bool eventFilter(QObject* object, QEvent* event) override;
+  // Hands on what is held, one event after the other; to be called whenever no handler runs.
+  void ScheduleReplay();
 
  private:
   struct Held {
@@ -33,7 +35,6 @@ class HeldInput : public QObject {
   static int Pump();
   bool MustHold() const;
   bool Hold(QObject* object, QEvent* event);
-  void ScheduleReplay();
   void ReplayNext();
   static void Deliver(QObject& receiver, QEvent& event);
 

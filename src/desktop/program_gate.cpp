@@ -3,9 +3,8 @@
 #include <cstdio>
 #include <utility>
 
-#include "desktop/message_dialog.h"
-#include "desktop/window.h"
 #include "services/background.h"
+#include "services/exceptions.h"
 
 namespace fundlet {
 
@@ -25,19 +24,6 @@ std::string Reason(const std::exception_ptr& failure) {
   }
 }
 
-void ShowLastResort(const std::string& what, const std::exception_ptr& failure) noexcept {
-  try {
-    MessageDialog dialog;
-    if (!what.empty()) dialog.Message = "“" + what + "” could not be carried out. ";
-    dialog.Message += Reason(failure);
-    dialog.Icon = MessageDialog::kCaution;
-    Beep();
-    dialog.ShowModalWithin(Window::Front());
-  } catch (...) {
-    std::fputs("Fundlet could not show an alert.\n", stderr);
-  }
-}
-
 }  // namespace
 
 ProgramGate& ProgramGate::Instance() {
@@ -45,12 +31,21 @@ ProgramGate& ProgramGate::Instance() {
   return gate;
 }
 
+void ProgramGate::Report(const std::string& what, const std::exception_ptr& failure) noexcept {
+  try {
+    const std::string command = what.empty() ? what : "“" + what + "” could not be carried out. ";
+    hooks_.report(command + Reason(failure));
+  } catch (...) {
+    std::fputs("A failure of the program could not be shown.\n", stderr);
+  }
+}
+
 void ProgramGate::RunGuarded(const std::string& what, const std::function<void()>& handler) {
   ++depth_;
   try {
     handler();
   } catch (...) {
-    ShowLastResort(what, std::current_exception());
+    Report(what, std::current_exception());
   }
   --depth_;
 }
@@ -82,9 +77,8 @@ void ProgramGate::RunWaiting() {
     RunGuarded(entry.what, entry.handler);
     command_ran = command_ran || entry.is_command;
   }
-  Window* front = Window::Front();
-  if (command_ran && front != nullptr && !shut_) front->EnableMenuItems();
-  if (idle_handler_) idle_handler_();
+  if (command_ran && !shut_ && hooks_.commands_done) hooks_.commands_done();
+  if (hooks_.idle) hooks_.idle();
 }
 
 void ProgramGate::Shut() {

@@ -9,7 +9,7 @@ namespace fundlet {
 
 // The one place through which every event enters the program. One handler of the program runs at a
 // time: what comes while it runs waits until it has returned. An exception that leaves a handler
-// ends here, in the last-resort alert, and never passes through the toolkit.
+// ends here, in a report to the user, and never passes through Qt.
 class ProgramGate {
  public:
   static ProgramGate& Instance();
@@ -22,8 +22,13 @@ class ProgramGate {
   void EnterWithin(const std::string& what, const std::function<void()>& handler);
 
   bool Busy() const { return depth_ > 0; }
-  // Called whenever the last waiting handler has returned.
-  void SetIdleHandler(std::function<void()> handler) { idle_handler_ = std::move(handler); }
+  // What the gate asks of the desktop around it; each may be empty.
+  struct Hooks {
+    std::function<void(const std::string& message)> report;  // tells the user of a failure
+    std::function<void()> commands_done;  // the waiting handlers have run, a command among them
+    std::function<void()> idle;           // the last waiting handler has returned
+  };
+  void SetHooks(Hooks hooks) { hooks_ = std::move(hooks); }
   // The program is ending: nothing that waits is run any more.
   void Shut();
   void Reopen();
@@ -38,9 +43,10 @@ class ProgramGate {
   void Run(Entry entry);
   void RunGuarded(const std::string& what, const std::function<void()>& handler);
   void RunWaiting();
+  void Report(const std::string& what, const std::exception_ptr& failure) noexcept;
 
   std::deque<Entry> waiting_;
-  std::function<void()> idle_handler_;
+  Hooks hooks_;
   int depth_ = 0;
   bool shut_ = false;
 };

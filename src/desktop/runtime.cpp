@@ -70,6 +70,7 @@ Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move
 
 Runtime::~Runtime() {
   ProgramGate::Instance().Shut();
+  ProgramGate::Instance().SetHooks({});
   implicit_instances.clear();
   registered_application = nullptr;
 }
@@ -89,6 +90,11 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setDesktopFileName("fundlet");
   QApplication::setQuitOnLastWindowClosed(false);
   parts_->held_input = std::make_unique<HeldInput>();
+  const auto show_enabling = [] {
+    if (Window* front = Window::Front(); front != nullptr) front->EnableMenuItems();
+  };
+  ProgramGate::Instance().SetHooks(
+      {App().Report, show_enabling, [this] { parts_->held_input->ScheduleReplay(); }});
   ProgramGate::Instance().Enter("Start", late);
 }
 

@@ -15,6 +15,8 @@ class Application {
   virtual ~Application() = default;
 
   fundlet::MenuBar* MenuBar = nullptr;  // of the application, and of each window that sets none
+  // Tells the user of a failure that no handler of the program has caught.
+  std::function<void(const std::string& message)> Report;
 
   // Declares, before the desktop has started, that the program draws sharply on dense displays.
   static void _SetSupportsHiDPI(bool supported);
