@@ -5,8 +5,7 @@
 #include <string>
 #include <string_view>
 
-// Text services. Every text is UTF-8; bytes that are not valid UTF-8 count as one character each.
-// None of them depends on the locale.
+// Text services. Every text is UTF-8. None of them depends on the locale.
 namespace fundlet {
 
 // The number that a text begins with: after any blanks and tabs, optionally a sign, then at least
