@@ -1,6 +1,6 @@
 #include "plan/entry_fields.h"
 
-#include <variant>
+#include <array>
 
 #include "services/format.h"
 #include "services/numbers.h"
@@ -12,72 +12,50 @@ std::int64_t IntegerReading(std::string_view text) { return Truncated(Val(text))
 double PercentReading(std::string_view text) { return Val(text) / 100.0; }
 double CurrencyReading(std::string_view text) { return Val(ReplaceAll(text, ",", "")); }
 
-namespace {
-
-using Whole = std::int64_t Plan::*;
-struct Percent {
-  double Plan::*value;
-};
-struct Currency {
-  double Plan::*value;
-  std::string_view mask;
-};
-// How a field is read and shown, and the parameter behind it.
-using Parameter = std::variant<Whole, Percent, Currency>;
-
-constexpr std::array<Parameter, 8> kParameters = {
-    Whole{&Plan::StartYear},
-    Whole{&Plan::StartAge},
-    Whole{&Plan::YearsLeft},
-    Percent{&Plan::COLA},
-    Currency{&Plan::StartFundlet, mask::kDollars},
-    Percent{&Plan::FundletAPR},
-    Currency{&Plan::SocialSecurity, mask::kSocialSecurity},
-    Currency{&Plan::EndFundlet, mask::kDollars},
-};
-
 const Parameter& ParameterOf(FocusCode field) {
-  return kParameters.at(static_cast<std::size_t>(field) - 1);
+  static constexpr std::array<Parameter, kFocusCodes.size()> kByCode = {{
+      {.whole = &Plan::StartYear},
+      {.whole = &Plan::StartAge},
+      {.whole = &Plan::YearsLeft},
+      {.rate = &Plan::COLA},
+      {.money = &Plan::StartFundlet, .money_mask = mask::kDollars},
+      {.rate = &Plan::FundletAPR},
+      {.money = &Plan::SocialSecurity, .money_mask = mask::kSocialSecurity},
+      {.money = &Plan::EndFundlet, .money_mask = mask::kDollars},
+  }};
+  return kByCode.at(static_cast<std::size_t>(field) - 1);
 }
 
-struct Reader {
-  Plan& plan;
-  std::string_view text;
+void ReadField(Plan& plan, FocusCode field, std::string_view text) {
+  const Parameter& parameter = ParameterOf(field);
+  if (parameter.whole != nullptr) plan.*parameter.whole = IntegerReading(text);
+  if (parameter.rate != nullptr) plan.*parameter.rate = PercentReading(text);
+  if (parameter.money != nullptr) plan.*parameter.money = CurrencyReading(text);
+}
 
-  void operator()(Whole value) const { plan.*value = IntegerReading(text); }
-  void operator()(Percent rate) const { plan.*rate.value = PercentReading(text); }
-  void operator()(Currency money) const { plan.*money.value = CurrencyReading(text); }
-};
+namespace {
 
-struct Shower {
-  const Plan& plan;
-  std::string_view percent_mask;
-
-  std::string operator()(Whole value) const { return Str(plan.*value); }
-  std::string operator()(Percent rate) const {
-    return Format(100.0 * plan.*rate.value, percent_mask);
-  }
-  std::string operator()(Currency money) const { return Format(plan.*money.value, money.mask); }
-};
+std::string TextOf(const Plan& plan, FocusCode field, std::string_view rate_mask) {
+  const Parameter& parameter = ParameterOf(field);
+  if (parameter.whole != nullptr) return Str(plan.*parameter.whole);
+  if (parameter.rate != nullptr) return Format(100.0 * plan.*parameter.rate, rate_mask);
+  return Format(plan.*parameter.money, parameter.money_mask);
+}
 
 }  // namespace
 
-void ReadField(Plan& plan, FocusCode field, std::string_view text) {
-  std::visit(Reader{plan, text}, ParameterOf(field));
-}
-
 std::string ShownText(const Plan& plan, FocusCode field) {
-  return std::visit(Shower{plan, mask::kPercent}, ParameterOf(field));
+  return TextOf(plan, field, mask::kPercent);
 }
 
 void LeaveField(Plan& plan, FocusCode field, EntryForm& form) {
   ReadField(plan, field, form.Text(field));
-  form.SetText(field, std::visit(Shower{plan, mask::kPercentLeft}, ParameterOf(field)));
+  form.SetText(field, TextOf(plan, field, mask::kPercentLeft));
 }
 
 void EnterField(Plan& plan, FocusCode field, EntryForm& form) {
   form.SelectAll(field);
-  plan.TheFocus = static_cast<std::int64_t>(field);
+  plan.TheFocus = field;
 }
 
 void ReadAllFields(Plan& plan, const EntryForm& form) {
@@ -90,12 +68,9 @@ void DisplayParameters(const Plan& plan, EntryForm& form) {
 
 void Refocus(const Plan& plan, EntryForm& form) {
   DisplayParameters(plan, form);
-  for (const FocusCode field : kFocusCodes) {
-    if (plan.TheFocus != static_cast<std::int64_t>(field)) continue;
-    form.SetFocus(field);
-    form.SelectAll(field);
-    return;
-  }
+  if (plan.TheFocus == FocusCode::None) return;
+  form.SetFocus(plan.TheFocus);
+  form.SelectAll(plan.TheFocus);
 }
 
 std::string ResultText(double annual_draw) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,15 +7,10 @@
 #include "plan/entry_form.h"
 #include "plan/plan.h"
 
-// The eight parameters as texts: how each one is read into the plan and shown from it. A parameter
-// and the text of its field are two copies of one value; here stands which is made from which.
+// The eight parameters and their texts: how each one is read into the plan and shown from it. A
+// parameter and the text of its field are two copies of one value; here stands which is made from
+// which.
 namespace fundlet {
-
-// All eight, in the order of their codes. It is also the order on the screen and in the file.
-inline constexpr std::array kFocusCodes = {FocusCode::StartYear,      FocusCode::StartAge,
-                                           FocusCode::YearsLeft,      FocusCode::COLA,
-                                           FocusCode::StartFundlet,   FocusCode::FundletAPR,
-                                           FocusCode::SocialSecurity, FocusCode::EndFundlet};
 
 // The masks under which the values are shown; whole numbers need none.
 namespace mask {
@@ -26,6 +20,19 @@ inline constexpr std::string_view kPercentLeft = "#0.0#";
 inline constexpr std::string_view kPercent = "##0.0##";
 inline constexpr std::string_view kDraw = "#,###,###,##0";
 }  // namespace mask
+
+// The parameter behind a field: a whole number, a rate or an amount of money. One of the three
+// members is set.
+struct Parameter {
+  std::int64_t Plan::*whole = nullptr;
+  double Plan::*rate = nullptr;
+  double Plan::*money = nullptr;
+  std::string_view money_mask = {};
+
+  double Plan::*Real() const { return rate != nullptr ? rate : money; }
+};
+
+const Parameter& ParameterOf(FocusCode field);  // of a field, not of None
 
 // The three readings of a text. A text that holds no number reads as 0.
 std::int64_t IntegerReading(std::string_view text);  // truncated toward zero; see Truncated

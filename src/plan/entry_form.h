@@ -1,21 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
-namespace fundlet {
+#include "plan/plan.h"
 
-// The numbers of the eight entry fields, in the order in which validation reads them.
-enum class FocusCode : std::int64_t {
-  StartYear = 1,
-  StartAge = 2,
-  YearsLeft = 3,
-  COLA = 4,
-  StartFundlet = 5,
-  FundletAPR = 6,
-  SocialSecurity = 7,
-  EndFundlet = 8,
-};
+namespace fundlet {
 
 // The window as the plan sees it: eight texts that it can read, rewrite, select and put the user
 // on, one line for the result, and a way to say something. Texts are UTF-8.

@@ -1,9 +1,31 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
 namespace fundlet {
+
+// The numbers of the eight entry fields. Their order is also that on the screen, in the parameters
+// file and in the validation.
+enum class FocusCode : std::int64_t {
+  None,
+  StartYear,
+  StartAge,
+  YearsLeft,
+  COLA,
+  StartFundlet,
+  FundletAPR,
+  SocialSecurity,
+  EndFundlet,
+};
+
+// All eight, in that order.
+inline constexpr std::array<FocusCode, 8> kFocusCodes = [] {
+  std::array<FocusCode, 8> codes{};
+  for (int code = 1; FocusCode & place : codes) place = static_cast<FocusCode>(code++);
+  return codes;
+}();
 
 // A retirement plan: the eight parameters that the user edits, what the last solve made of them,
 // and where the user was. It keeps nothing in range by itself; only ErrorDetected does. There is
@@ -32,9 +54,9 @@ struct Plan {
   // Persons of 100,000 born who are still alive, by age in years. Never empty.
   std::vector<std::int64_t> Surviving = {0};
 
-  bool WindowOpened = false;    // opened, and not yet activated for the first time
-  std::int64_t TheFocus = 0;    // code of the field that last received the focus, 0 for none
-  std::int64_t ErrorFocus = 0;  // code of the field refused by the latest validation, 0 for none
+  bool WindowOpened = false;               // opened, and not yet activated for the first time
+  FocusCode TheFocus = FocusCode::None;    // the field that last received the focus
+  FocusCode ErrorFocus = FocusCode::None;  // the field that the latest validation refused
 };
 
 }  // namespace fundlet

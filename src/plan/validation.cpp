@@ -1,114 +1,104 @@
 #include "plan/validation.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 #include <string_view>
 
 #include "plan/entry_fields.h"
+#include "services/numbers.h"
 
 namespace fundlet {
 
 namespace {
 
-// Whether the alert of a refused value is seen before or after the value is forced. The one that
-// comes before leaves the old value in the plan while the alert is open.
-enum class Told { AfterForcing, BeforeForcing };
+using enum FocusCode;
+
+// A value in the unit of its field: a constant, or what another field makes of it.
+struct Value {
+  constexpr Value(double constant) : constant_(constant) {}
+  constexpr Value(double (*of)(const Plan&)) : of_(of) {}
+  double In(const Plan& plan) const { return of_ != nullptr ? of_(plan) : constant_; }
+
+ private:
+  double constant_ = 0.0;
+  double (*of_)(const Plan&) = nullptr;
+};
+
+double YearsToAge99(const Plan& plan) { return 99.0 - static_cast<double>(plan.StartAge); }
+double InitialFundlet(const Plan& plan) { return plan.StartFundlet; }
+
+enum class Fails { Below, Above, AtOrAbove };
 
 struct Rule {
   FocusCode field;
-  bool (*fails)(const Plan&);
-  void (*force)(Plan&);
-  Told told;
+  Fails fails;
+  Value limit;
+  Value forced;
   std::string_view message;
 };
 
-// A field is read before the first rule that names it.
+// By field, in the order of the tests.
 constexpr Rule kRules[] = {
-    {FocusCode::StartYear, [](const Plan& plan) { return plan.StartYear < 0; },
-     [](Plan& plan) { plan.StartYear = 0; }, Told::AfterForcing, "Start year must be at least 0."},
-
-    {FocusCode::StartAge, [](const Plan& plan) { return plan.StartAge < 52; },
-     [](Plan& plan) { plan.StartAge = 52; }, Told::AfterForcing,
-     "Age must be at least 52 years old."},
-    {FocusCode::StartAge, [](const Plan& plan) { return plan.StartAge > 95; },
-     [](Plan& plan) { plan.StartAge = 95; }, Told::AfterForcing,
-     "Age must be no more than 95 years old."},
-
-    {FocusCode::YearsLeft, [](const Plan& plan) { return plan.YearsLeft < 4; },
-     [](Plan& plan) { plan.YearsLeft = 4; }, Told::AfterForcing,
-     "Life expectancy must be at least 4 years."},
-    {FocusCode::YearsLeft, [](const Plan& plan) { return plan.YearsLeft > 40; },
-     [](Plan& plan) { plan.YearsLeft = 40; }, Told::AfterForcing,
-     "Life expectancy must be no more than 40 years."},
-    {FocusCode::YearsLeft, [](const Plan& plan) { return plan.StartAge + plan.YearsLeft > 99; },
-     [](Plan& plan) { plan.YearsLeft = 99 - plan.StartAge; }, Told::AfterForcing,
+    {StartYear, Fails::Below, 0.0, 0.0, "Start year must be at least 0."},
+    {StartAge, Fails::Below, 52, 52, "Age must be at least 52 years old."},
+    {StartAge, Fails::Above, 95, 95, "Age must be no more than 95 years old."},
+    {YearsLeft, Fails::Below, 4, 4, "Life expectancy must be at least 4 years."},
+    {YearsLeft, Fails::Above, 40, 40, "Life expectancy must be no more than 40 years."},
+    {YearsLeft, Fails::Above, YearsToAge99, YearsToAge99,
      "Age plus life expectancy must be less than 100 years."},
-
-    {FocusCode::COLA, [](const Plan& plan) { return plan.COLA < 0.0; },
-     [](Plan& plan) { plan.COLA = 0.0; }, Told::AfterForcing,
-     "COLA (Annual Cost of Living Adjustment) must be at least 0%."},
-    {FocusCode::COLA, [](const Plan& plan) { return plan.COLA >= 1.0; },
-     [](Plan& plan) { plan.COLA = 0.9999; }, Told::BeforeForcing,
+    {COLA, Fails::Below, 0.0, 0.0, "COLA (Annual Cost of Living Adjustment) must be at least 0%."},
+    {COLA, Fails::AtOrAbove, 1.0, 0.9999,
      "COLA (Annual Cost of Living Adjustment) must be less than 100%."},
-
-    {FocusCode::StartFundlet, [](const Plan& plan) { return plan.StartFundlet < 0.0; },
-     [](Plan& plan) { plan.StartFundlet = 0.0; }, Told::AfterForcing,
-     "Initial fundlet must be at least $0."},
-    {FocusCode::StartFundlet, [](const Plan& plan) { return plan.StartFundlet > 999999999.0; },
-     [](Plan& plan) { plan.StartFundlet = 999999999.0; }, Told::AfterForcing,
+    {StartFundlet, Fails::Below, 0.0, 0.0, "Initial fundlet must be at least $0."},
+    {StartFundlet, Fails::Above, 999'999'999, 999'999'999,
      "Initial fundlet must be at less than $1 billion."},
-
-    {FocusCode::FundletAPR, [](const Plan& plan) { return plan.FundletAPR < 0.0; },
-     [](Plan& plan) { plan.FundletAPR = 0.0; }, Told::AfterForcing,
-     "After-tax fundlet APR must be at least 0%."},
-    {FocusCode::FundletAPR, [](const Plan& plan) { return plan.FundletAPR >= 1.0; },
-     [](Plan& plan) { plan.FundletAPR = 0.9999; }, Told::AfterForcing,
-     "After-tax fundlet APR must be less than 100%."},
-
-    {FocusCode::SocialSecurity, [](const Plan& plan) { return plan.SocialSecurity < 0.0; },
-     [](Plan& plan) { plan.SocialSecurity = 0.0; }, Told::AfterForcing,
-     "Annual social secuity must be at least $0."},
-    {FocusCode::SocialSecurity, [](const Plan& plan) { return plan.SocialSecurity > 99999.0; },
-     [](Plan& plan) { plan.SocialSecurity = 99999.0; }, Told::AfterForcing,
+    {FundletAPR, Fails::Below, 0.0, 0.0, "After-tax fundlet APR must be at least 0%."},
+    {FundletAPR, Fails::AtOrAbove, 1.0, 0.9999, "After-tax fundlet APR must be less than 100%."},
+    {SocialSecurity, Fails::Below, 0.0, 0.0, "Annual social secuity must be at least $0."},
+    {SocialSecurity, Fails::Above, 99'999, 99'999,
      "Annual social secuity must be at less than $100,000."},
-
-    {FocusCode::EndFundlet, [](const Plan& plan) { return plan.EndFundlet < 0.0; },
-     [](Plan& plan) { plan.EndFundlet = 0.0; }, Told::AfterForcing,
-     "Terminal fundlet must be at least $0."},
-    {FocusCode::EndFundlet, [](const Plan& plan) { return plan.EndFundlet > plan.StartFundlet; },
-     [](Plan& plan) { plan.EndFundlet = 0.0; }, Told::AfterForcing,
+    {EndFundlet, Fails::Below, 0.0, 0.0, "Terminal fundlet must be at least $0."},
+    {EndFundlet, Fails::Above, InitialFundlet, 0.0,
      "Terminal fundlet must be no more than the initial fundlet."},
 };
 
-// The fields that are rewritten and selected once they have passed. What the solver works on is
-// then what they show.
-bool RewrittenOnPass(FocusCode field) {
-  return field == FocusCode::StartFundlet || field == FocusCode::SocialSecurity ||
-         field == FocusCode::EndFundlet;
+// A whole number so large that a double rounds it lies beyond every limit, rounded or not.
+double ValueIn(const Plan& plan, const Parameter& parameter) {
+  return parameter.whole != nullptr ? static_cast<double>(plan.*parameter.whole)
+                                    : plan.*parameter.Real();
+}
+
+bool Failing(const Rule& rule, const Plan& plan) {
+  const double value = ValueIn(plan, ParameterOf(rule.field));
+  const double limit = rule.limit.In(plan);
+  if (rule.fails == Fails::Below) return value < limit;
+  return value > limit || (rule.fails == Fails::AtOrAbove && value == limit);
 }
 
 void Refuse(const Rule& rule, Plan& plan, EntryForm& form) {
-  const auto force = [&] {
-    plan.ErrorFocus = static_cast<std::int64_t>(rule.field);
-    rule.force(plan);
-  };
-  if (rule.told == Told::AfterForcing) force();
-  form.Alert(std::string(rule.message));
-  if (rule.told == Told::BeforeForcing) force();
+  // While the alert of this one is open, the plan still has the refused value.
+  const bool told_first = rule.field == COLA && rule.fails == Fails::AtOrAbove;
+  if (told_first) form.Alert(std::string(rule.message));
+  plan.ErrorFocus = rule.field;
+  const Parameter& parameter = ParameterOf(rule.field);
+  const double forced = rule.forced.In(plan);
+  if (parameter.whole != nullptr) {
+    plan.*parameter.whole = Truncated(forced);
+  } else {
+    plan.*parameter.Real() = forced;
+  }
+  if (!told_first) form.Alert(std::string(rule.message));
 }
 
 // Reads one field, and refuses or accepts it by its rules.
 bool FieldRefused(Plan& plan, FocusCode field, EntryForm& form) {
   ReadField(plan, field, form.Text(field));
-  const auto* const failed =
-      std::find_if(std::begin(kRules), std::end(kRules),
-                   [&](const Rule& rule) { return rule.field == field && rule.fails(plan); });
-  if (failed != std::end(kRules)) {
-    Refuse(*failed, plan, form);
+  for (const Rule& rule : kRules) {
+    if (rule.field != field || !Failing(rule, plan)) continue;
+    Refuse(rule, plan, form);
     return true;
   }
-  if (RewrittenOnPass(field)) {
+  if (ParameterOf(field).money != nullptr) {
     form.SetText(field, ShownText(plan, field));
     form.SelectAll(field);
   }
@@ -118,7 +108,7 @@ bool FieldRefused(Plan& plan, FocusCode field, EntryForm& form) {
 }  // namespace
 
 bool ErrorDetected(Plan& plan, EntryForm& form) {
-  plan.ErrorFocus = 0;
+  plan.ErrorFocus = None;
   return std::any_of(kFocusCodes.begin(), kFocusCodes.end(),
                      [&](FocusCode field) { return FieldRefused(plan, field, form); });
 }

@@ -62,7 +62,7 @@ void aFundletWindow::Event_Activate() {
     DisplayParameters();
     SelectAll(FocusCode::StartYear);
     ShowResult(ResultText(0.0));
-  } else if (plan_.ErrorFocus > 0) {
+  } else if (plan_.ErrorFocus != FocusCode::None) {
     plan_.TheFocus = plan_.ErrorFocus;
   }
   Refocus();

@@ -65,12 +65,12 @@ TEST(Refocus, ShowsAllParametersAndSelectsTheLastField) {
                                           "text 7 20,000", "text 8 100,000"};
   Refocus(plan, form);
   EXPECT_EQ(form.actions, shown) << "no field has had the focus yet";
-  EnterField(plan, YearsLeft, form);
+  EnterField(plan, StartYear, form);
   form.actions.clear();
   Refocus(plan, form);
   EXPECT_EQ(std::vector(form.actions.begin(), form.actions.begin() + 8), shown);
   EXPECT_EQ(std::vector(form.actions.begin() + 8, form.actions.end()),
-            (std::vector<std::string>{"focus 3", "select 3"}));
+            (std::vector<std::string>{"focus 1", "select 1"}));
 }
 
 }  // namespace

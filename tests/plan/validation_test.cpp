@@ -45,38 +45,26 @@ const Refusal kRefusals[] = {
 TEST(Validation, TellsOfARefusedValueOnceAndForcesOneThatPasses) {
   for (const auto& [field, text, forced, message] : kRefusals) {
     const std::string alert = std::string("alert ") + message;
-    const auto code = static_cast<std::int64_t>(field);
     const bool forced_afterwards = alert.find("COLA") != alert.npos && text == std::string("100");
     Plan plan;
-    plan.ErrorFocus = 7;
+    plan.ErrorFocus = SocialSecurity;
     TextForm form;
     form.At(field) = text;
     form.while_alerting = [&, shown = forced_afterwards ? "100.0" : forced, field = field] {
-      EXPECT_EQ(plan.ErrorFocus, forced_afterwards ? 0 : code) << alert;
+      EXPECT_EQ(plan.ErrorFocus, forced_afterwards ? None : field) << alert;
       EXPECT_EQ(ShownText(plan, field), shown) << alert;
     };
     EXPECT_TRUE(ErrorDetected(plan, form)) << alert;
-    EXPECT_EQ(plan.ErrorFocus, code) << alert;
+    EXPECT_EQ(plan.ErrorFocus, field) << alert;
     EXPECT_EQ(std::count(form.actions.begin(), form.actions.end(), alert), 1) << alert;
+    EXPECT_EQ(plan.StartYear, field == StartYear ? 0 : 2010) << "the fields before it are read";
+    EXPECT_EQ(plan.EndFundlet, 0) << "and none behind it: " << alert;
     EXPECT_EQ(form.At(field), text) << "a refused field is not rewritten";
     EXPECT_EQ(form.At(field) = ShownText(plan, field), forced) << alert;
     form.while_alerting = [] {};
     ErrorDetected(plan, form);
     EXPECT_NE(form.actions.back(), alert);
   }
-}
-
-TEST(Validation, ReadsTheFieldsBeforeTheRefusedOneAndNoneBehindIt) {
-  Plan plan;
-  plan.StartFundlet = 7;
-  TextForm form;
-  form.texts = {"2011", "71", "5", "-1", "9", "bad", "9", "9"};
-  EXPECT_TRUE(ErrorDetected(plan, form));
-  EXPECT_EQ(plan.StartYear, 2011);
-  EXPECT_EQ(plan.StartAge, 71);
-  EXPECT_EQ(plan.YearsLeft, 5);
-  EXPECT_EQ(plan.StartFundlet, 7);
-  EXPECT_EQ(plan.EndFundlet, 0);
 }
 
 TEST(Validation, AcceptsEachValueAtItsBound) {
@@ -88,9 +76,9 @@ TEST(Validation, AcceptsEachValueAtItsBound) {
     Plan plan;
     TextForm form;
     form.texts = texts;
-    plan.ErrorFocus = 7;
+    plan.ErrorFocus = SocialSecurity;
     EXPECT_FALSE(ErrorDetected(plan, form)) << form.actions.back();
-    EXPECT_EQ(plan.ErrorFocus, 0);
+    EXPECT_EQ(plan.ErrorFocus, None);
   }
 }
 
