@@ -7,9 +7,8 @@ namespace fundlet {
 
 void SaveParameters(Plan& plan, const EntryForm& form) {
   const FolderItem file = ParametersFile();
-  // Opened before any field is read, so that a file that cannot be had leaves the plan alone.
-  BinaryStream stream =
-      file.Exists() ? BinaryStream::Open(file, true) : BinaryStream::Create(file, true);
+  // Opened before any field is read, so that a file that refuses it leaves the plan alone.
+  BinaryStream stream = file.Exists() ? BinaryStream::Open(file) : BinaryStream::Create(file);
   ReadAllFields(plan, form);
   stream.SetPosition(0);
   WriteParameters(stream, plan);

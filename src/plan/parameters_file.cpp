@@ -1,5 +1,6 @@
 #include "plan/parameters_file.h"
 
+#include "plan/entry_fields.h"
 #include "services/date.h"
 
 namespace fundlet {
@@ -18,38 +19,41 @@ void SetDefaultParameters(Plan& plan) {
 }
 
 void WriteParameters(BinaryStream& stream, const Plan& plan) {
-  stream.WriteInt16(static_cast<std::int16_t>(plan.StartYear));
-  stream.WriteInt8(static_cast<std::int8_t>(plan.StartAge));
-  stream.WriteInt8(static_cast<std::int8_t>(plan.YearsLeft));
-  stream.WriteDouble(plan.COLA);
-  stream.WriteDouble(plan.StartFundlet);
-  stream.WriteDouble(plan.FundletAPR);
-  stream.WriteDouble(plan.SocialSecurity);
-  stream.WriteDouble(plan.EndFundlet);
+  for (const FocusCode field : kFocusCodes) {
+    const Parameter& parameter = ParameterOf(field);
+    if (field == FocusCode::StartYear) {
+      stream.WriteInt16(static_cast<std::int16_t>(plan.StartYear));
+    } else if (parameter.whole != nullptr) {
+      stream.WriteInt8(static_cast<std::int8_t>(plan.*parameter.whole));
+    } else {
+      stream.WriteDouble(plan.*parameter.Real());
+    }
+  }
 }
 
 void ReadParameters(BinaryStream& stream, Plan& plan) {
-  plan.StartYear = stream.ReadInt16();
-  // The sign is to go with the wider type. NOLINTNEXTLINE(bugprone-signed-char-misuse)
-  plan.StartAge = stream.ReadInt8();
-  // NOLINTNEXTLINE(bugprone-signed-char-misuse)
-  plan.YearsLeft = stream.ReadInt8();
-  plan.COLA = stream.ReadDouble();
-  plan.StartFundlet = stream.ReadDouble();
-  plan.FundletAPR = stream.ReadDouble();
-  plan.SocialSecurity = stream.ReadDouble();
-  plan.EndFundlet = stream.ReadDouble();
+  for (const FocusCode field : kFocusCodes) {
+    const Parameter& parameter = ParameterOf(field);
+    if (field == FocusCode::StartYear) {
+      plan.StartYear = stream.ReadInt16();
+    } else if (parameter.whole != nullptr) {
+      // The sign goes with the wider type. NOLINTNEXTLINE(bugprone-signed-char-misuse)
+      plan.*parameter.whole = stream.ReadInt8();
+    } else {
+      plan.*parameter.Real() = stream.ReadDouble();
+    }
+  }
 }
 
 BinaryStream OpenRememberedParameters(Plan& plan) {
   const FolderItem file = ParametersFile();
   if (file.Exists()) {
-    BinaryStream stream = BinaryStream::Open(file, true);
+    BinaryStream stream = BinaryStream::Open(file);
     ReadParameters(stream, plan);
     return stream;
   }
   SetDefaultParameters(plan);
-  BinaryStream stream = BinaryStream::Create(file, true);
+  BinaryStream stream = BinaryStream::Create(file);
   stream.SetPosition(0);
   WriteParameters(stream, plan);
   return stream;
@@ -57,6 +61,8 @@ BinaryStream OpenRememberedParameters(Plan& plan) {
 
 void StartParameters(Plan& plan, const std::function<void(const std::string&)>& alert) {
   try {
+    // In place of the zeros that a file with another fault leaves: there may well be none yet.
+    if (ParametersFile().IsUnreachable()) SetDefaultParameters(plan);
     OpenRememberedParameters(plan).Close();
   } catch (const std::exception&) {
     alert("File “" + std::string(kParametersFileName) + "” is busy.");

@@ -35,12 +35,13 @@ void SetDefaultParameters(Plan& plan);
 void WriteParameters(BinaryStream& stream, const Plan& plan);
 void ReadParameters(BinaryStream& stream, Plan& plan);
 
-// The parameters file opened for reading and writing: the one that exists, read into the plan, or
-// a new one with the defaults, which are then in the plan too. IOException.
+// The parameters file, open: the one that exists, read into the plan, or a new one with the
+// defaults, which are then in the plan too. IOException.
 BinaryStream OpenRememberedParameters(Plan& plan);
 
-// Gives the plan its parameters when the program starts. A file that cannot be used is told with
-// the alert; then the plan keeps what it has by that time, and the start goes on.
+// Gives the plan its parameters when the program starts. A file that cannot be used is reported
+// through the alert, and the start goes on. The plan then has the values read by that time, or the
+// defaults where no file could be made or its folder may not be entered.
 void StartParameters(Plan& plan, const std::function<void(const std::string&)>& alert);
 
 }  // namespace fundlet

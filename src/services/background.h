@@ -1,7 +1,8 @@
 #pragma once
 
-// What a long computation owes the rest of the program: a yield now and then, and an ear for the
-// user's wish to stop. Both cost a computation next to nothing; a desktop fills them in.
+// What a long computation does for the rest of the program: it yields now and then, and it asks
+// whether the user wants it to stop. Both cost next to nothing. The desktop sets the task and the
+// wish; without one nothing happens.
 namespace fundlet {
 
 namespace background {
@@ -13,8 +14,8 @@ void CallTask();
 
 }  // namespace background
 
-// What is called once in a while from the yields: it gives the number of yields, at least 1, to
-// pass before it is called again. Null takes the present one away.
+// Called from the yields once in a while. It returns the number of yields, at least 1, after which
+// it is to be called again. Null: no task.
 using BackgroundTask = int (*)();
 void SetBackgroundTask(BackgroundTask task);
 

@@ -8,16 +8,11 @@ namespace fundlet {
 
 static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == 8);
 
-BinaryStream BinaryStream::Open(const FolderItem& item, bool /*read_write*/) {
+BinaryStream BinaryStream::Open(const FolderItem& item) {
   return {item, FileHandle::Use::Existing};
 }
 
-BinaryStream BinaryStream::Create(const FolderItem& item, bool overwrite) {
-  if (!overwrite && item.Exists()) {
-    throw IOException(FileAction::Create, item.Path(), IOException::kFileExists);
-  }
-  return {item, FileHandle::Use::New};
-}
+BinaryStream BinaryStream::Create(const FolderItem& item) { return {item, FileHandle::Use::New}; }
 
 void BinaryStream::SetPosition(std::int64_t byte) { file_.SetPosition(static_cast<long>(byte)); }
 
@@ -25,10 +20,7 @@ void BinaryStream::Close() { file_.Close(); }
 
 void BinaryStream::WriteBits(std::uint64_t bits, std::size_t width) {
   std::array<std::uint8_t, sizeof(bits)> bytes{};
-  for (std::size_t at = 0; at < width; ++at) {
-    const std::size_t place = LittleEndian ? at : width - 1 - at;
-    bytes.at(place) = static_cast<std::uint8_t>(bits >> (8 * at));
-  }
+  for (std::size_t at = width; at > 0; bits >>= 8) bytes.at(--at) = bits & 0xFF;
   file_.Write(bytes.data(), width);
 }
 
@@ -36,10 +28,7 @@ std::uint64_t BinaryStream::ReadBits(std::size_t width) {
   std::array<std::uint8_t, sizeof(std::uint64_t)> bytes{};
   file_.Read(bytes.data(), width);
   std::uint64_t bits = 0;
-  for (std::size_t at = 0; at < width; ++at) {
-    const std::size_t place = LittleEndian ? at : width - 1 - at;
-    bits |= static_cast<std::uint64_t>(bytes.at(place)) << (8 * at);
-  }
+  for (std::size_t at = 0; at < width; ++at) bits = bits << 8 | bytes.at(at);
   return bits;
 }
 

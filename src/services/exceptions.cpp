@@ -13,7 +13,6 @@ struct Reason {
 };
 
 constexpr Reason kReasons[] = {
-    {IOException::kFileExists, "there is a file of that name already"},
     {IOException::kEndOfFile, "the file is shorter than it should be"},
     {IOException::kNotAFile, "there is something of that name that is not a file"},
     {IOException::kNoFolder, "you have no folder of your own to keep it in"},

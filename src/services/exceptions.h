@@ -30,7 +30,6 @@ enum class FileAction { Open, Create, Read, Write, Close };
 class IOException : public RuntimeException {
  public:
   // Numbers of the failures that no system call reports; every other number is an errno value.
-  static constexpr int kFileExists = 104;
   static constexpr int kEndOfFile = -1;
   static constexpr int kNotAFile = -2;
   static constexpr int kNoFolder = -3;

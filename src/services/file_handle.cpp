@@ -12,19 +12,19 @@ namespace {
 std::FILE* OpenFile(const fs::path& path, FileHandle::Use use) {
   const bool existing = use == FileHandle::Use::Existing;
 #ifdef _WIN32
-  return _wfopen(path.c_str(), existing ? L"r+b" : L"w+b");
+  return _wfopen(path.c_str(), existing ? L"r+b" : L"wb");
 #else
-  return std::fopen(path.c_str(), existing ? "r+b" : "w+b");
+  return std::fopen(path.c_str(), existing ? "r+b" : "wb");
 #endif
 }
 
-// The errno value of what the path leads to being no plain file, 0 for a plain file or for none.
-int NoPlainFile(const fs::path& path) {
+// The number of the failure where the path leads to something other than a file; otherwise 0.
+int FaultOfKind(const fs::path& path) {
   std::error_code ignored;
   const fs::file_status status = fs::status(path, ignored);
   if (fs::is_directory(status)) return EISDIR;
-  const bool plain = !fs::exists(status) || fs::is_regular_file(status);
-  return plain ? 0 : IOException::kNotAFile;
+  const bool other = fs::exists(status) && !fs::is_regular_file(status);
+  return other ? IOException::kNotAFile : 0;
 }
 
 }  // namespace
@@ -32,7 +32,7 @@ int NoPlainFile(const fs::path& path) {
 FileHandle::FileHandle(const FolderItem& item, Use use) : path_(item.Path()) {
   const FileAction action = use == Use::Existing ? FileAction::Open : FileAction::Create;
   if (path_.empty()) throw IOException(action, item.Name(), IOException::kNoFolder);
-  if (const int fault = NoPlainFile(path_); fault != 0) Fail(action, fault);
+  if (const int fault = FaultOfKind(path_); fault != 0) Fail(action, fault);
   errno = 0;
   file_.reset(OpenFile(path_, use));
   if (!file_) Fail(action, errno);

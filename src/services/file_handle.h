@@ -14,14 +14,16 @@ namespace fundlet {
 // dropped without Close closes the file and says nothing.
 class FileHandle {
  public:
-  enum class Use { Existing, New };  // New starts an empty file, in place of one that is there
+  // Existing: opened for reading and writing. New: an empty file, in place of one that is there,
+  // opened for writing only, so that a file that may not be read can be replaced too.
+  enum class Use { Existing, New };
 
-  // Opens for reading and writing. Anything but a plain file is refused.
+  // What is there and is not a file, such as a folder or a pipe, is refused.
   FileHandle(const FolderItem& item, Use use);
 
   void Read(void* bytes, std::size_t count);  // all of them, or IOException
   void Write(const void* bytes, std::size_t count);
-  void SetPosition(long position);
+  void SetPosition(long position);  // in bytes from the start
   void Close();
 
  private:

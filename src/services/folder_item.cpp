@@ -29,6 +29,11 @@ bool FolderItem::Exists() const {
   return !path_.empty() && fs::status(path_, ignored).type() != fs::file_type::not_found;
 }
 
+bool FolderItem::IsUnreachable() const {
+  std::error_code ignored;
+  return !path_.empty() && !fs::status_known(fs::status(path_, ignored));
+}
+
 void FolderItem::SetMacCreator([[maybe_unused]] std::string_view code) const {
 #ifdef __APPLE__
   constexpr std::size_t kCreatorOffset = 4;

@@ -6,8 +6,8 @@
 
 namespace fundlet {
 
-// A place in the file system, whether anything is there or not. One without a path stands for a
-// place that cannot be had: nothing exists there and nothing can be made there.
+// A place in the file system, whether anything is there or not. Where there is no such place, as in
+// the home folder of a user who has none, it has no path: nothing exists and nothing can be made.
 class FolderItem {
  public:
   FolderItem() = default;
@@ -15,9 +15,11 @@ class FolderItem {
 
   // The entry of that name (UTF-8) inside this folder.
   FolderItem Child(std::string_view name) const;
-  // Also True where the system cannot tell: nothing may then be put in its place unasked, and to
-  // open it says why.
+  // Also True where the system cannot tell, so that nothing is overwritten; opening it then fails
+  // with the reason.
   bool Exists() const;
+  // True where the system cannot tell whether it exists, as in a folder that may not be entered.
+  bool IsUnreachable() const;
   // The entry's own name, without its folders, in UTF-8.
   const std::string& Name() const { return name_; }
   const std::filesystem::path& Path() const { return path_; }
@@ -31,8 +33,10 @@ class FolderItem {
 };
 
 struct SpecialFolder {
-  // The user's folder for preferences. It is made when it does not exist. Where the user has no
-  // home folder, the result has no path.
+  // The user's folder for preferences: $XDG_CONFIG_HOME, or ~/.config without one, and what other
+  // systems have in its place. It is made, for this user alone, when it does not exist; where that
+  // fails, what is then opened or created in it fails with the reason. Without a home folder the
+  // result has no path.
   static FolderItem Preferences();
 };
 

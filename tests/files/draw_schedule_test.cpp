@@ -38,7 +38,10 @@ TEST(DrawSchedule, ReplacesAFileByTheParametersAndOneRowForEachYear) {
   const ScratchFolder folder;
   const std::string name = "Entnahme ½ 年金 📈.txt";
   folder.Write(name, std::string(5000, 'x'));
-  SaveSchedule(SolvedSample(), folder.Item(name));
+  std::filesystem::permissions(folder.Path() / name, std::filesystem::perms{0222});
+  EXPECT_NO_THROW((OrdinaryUser(), SaveSchedule(SolvedSample(), folder.Item(name))))
+      << "it need not be readable";
+  std::filesystem::permissions(folder.Path() / name, std::filesystem::perms{0666});
   EXPECT_EQ(folder.Read(name), kSampleSchedule);
 }
 

@@ -12,6 +12,8 @@
 namespace fundlet {
 namespace {
 
+namespace fs = std::filesystem;
+
 const std::string kNoNumber("\x7F\xF4\0\0\0\0\0\x01", 8);
 const std::string kMinusZero("\x80\0\0\0\0\0\0\0", 8);
 const std::string kThousand("\x40\x8F\x40\0\0\0\0\0", 8);
@@ -48,13 +50,16 @@ TEST(RestoreParameters, TakesEveryBitAndShowsThePlanBeforeItMovesTheFocus) {
                                       "select 1", "result Initial Year Draw:  $0", "focus 1"}));
 }
 
-TEST(RememberedParameters, ThatCannotBeOpenedLeaveThePlanAndTheTextsAlone) {
+TEST(RememberedParameters, ThatMayNotBeSeenAreRefusedAndLeaveThePlanAndTheTextsAlone) {
   const ScratchFolder folder;
-  std::filesystem::create_directory(folder.Path() / kParametersFileName);
+  folder.Write(kParametersFileName, "kept");
+  fs::permissions(folder.Path(), fs::perms::none);
   Plan plan;
   TextForm form;
-  EXPECT_THROW(SaveParameters(plan, form), IOException);
-  EXPECT_THROW(RestoreParameters(plan, form), IOException);
+  EXPECT_THROW((OrdinaryUser(), SaveParameters(plan, form)), IOException);
+  EXPECT_THROW((OrdinaryUser(), RestoreParameters(plan, form)), IOException);
+  fs::permissions(folder.Path(), fs::perms::all);
+  EXPECT_EQ(folder.Read(kParametersFileName), "kept");
   EXPECT_EQ(plan.StartAge, 0);
   EXPECT_TRUE(form.actions.empty());
 }

@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t count) {
   StartParameters(plan, [&](const std::string&) { reported = true; });
   if (reported != (count < 44)) std::abort();
   if (!reported) {
-    BinaryStream stream = BinaryStream::Open(ParametersFile(), true);
+    BinaryStream stream = BinaryStream::Open(ParametersFile());
     WriteParameters(stream, plan);
   }
   if (folder.Read(kParametersFileName) != file) std::abort();

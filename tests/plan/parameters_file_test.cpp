@@ -70,25 +70,25 @@ TEST(StartParameters, StartsWithZerosWhereTheFileCannotBeOpened) {
   const ScratchFolder folder;
   const fs::path file = folder.Path() / kParametersFileName;
   folder.Write(kParametersFileName, kRecord);
-  Plan plan;
-  fs::permissions(file, fs::perms{0444});
-  EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << "a file that cannot be written";
-  fs::permissions(folder.Path(), fs::perms::none);
-  EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << "one that cannot even be looked at";
-  fs::permissions(folder.Path(), fs::perms::all);
-  fs::remove(file);
-  fs::create_directory(file);
-  EXPECT_EQ(AlertsOfStart(plan), kBusy) << "a folder";
-  EXPECT_EQ(Shown(plan), kZeros);
+  for (const unsigned mode : {0444U, 0222U, 0U, 0111U}) {
+    fs::permissions(file, fs::perms{mode});
+    // And at last a folder in its place.
+    if (mode == 0111) fs::remove(file), fs::create_directory(file);
+    Plan plan;
+    EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << std::oct << mode;
+    EXPECT_EQ(Shown(plan), kZeros);
+  }
 }
 
-TEST(StartParameters, StartsWithTheDefaultsWhereTheFileCannotBeMade) {
+TEST(StartParameters, StartsWithTheDefaultsWhereTheFileCannotBeMadeOrSeen) {
   const ScratchFolder folder;
   folder.Write("file", "");
-  fs::create_directory(folder.Path() / "sealed");
+  for (const char* name : {"sealed", "closed"}) fs::create_directory(folder.Path() / name);
+  folder.Write(std::string("closed/") + kParametersFileName, kRecord);
   fs::permissions(folder.Path() / "sealed", fs::perms{0555});
+  fs::permissions(folder.Path() / "closed", fs::perms::none);
   unsetenv("HOME");
-  for (const std::string place : {"sealed", "sealed/folder", "file/folder", "no home"}) {
+  for (const std::string place : {"sealed", "sealed/folder", "file/folder", "no home", "closed"}) {
     setenv("XDG_CONFIG_HOME", place == "no home" ? "" : (folder.Path() / place).c_str(), 1);
     const OrdinaryUser user;
     Plan plan;
@@ -96,6 +96,8 @@ TEST(StartParameters, StartsWithTheDefaultsWhereTheFileCannotBeMade) {
     EXPECT_EQ(plan.StartAge, 65);
     EXPECT_EQ(plan.EndFundlet, 100000);
   }
+  fs::permissions(folder.Path() / "closed", fs::perms::all);
+  EXPECT_EQ(folder.Read(std::string("closed/") + kParametersFileName), kRecord);
 }
 
 }  // namespace
