@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "plan/draw_solver.h"
-
 namespace fundlet::bench {
 
 namespace {
@@ -29,13 +27,13 @@ Plan MakePlan(std::int64_t years, double cola, double apr, double social, double
 
 }  // namespace
 
-void BareSolve::Run(const Plan& plan) {
+void BareSolve::Run(const Plan& plan, int most_levels) {
   const auto years = static_cast<std::size_t>(plan.YearsLeft);
   balance.assign(years + 1, 0.0);
   drawing.assign(years + 1, 0);
   balance[0] = plan.StartFundlet;
   draw = (plan.StartFundlet - plan.EndFundlet) / static_cast<double>(years);
-  for (levels = 1; levels <= kLevelLimit; ++levels) {
+  for (levels = 1; levels <= most_levels; ++levels) {
     for (std::size_t year = 1; year <= years; ++year) {
       double b = balance[year - 1];
       const double growth = std::pow(1.0 + plan.COLA, static_cast<double>(year - 1));
@@ -55,7 +53,7 @@ void BareSolve::Run(const Plan& plan) {
     if (0.5 > std::fabs(balance[years] - plan.EndFundlet)) return;
     draw = draw - (plan.EndFundlet - balance[years]) / 100.0;
   }
-  levels = kLevelLimit;
+  levels = most_levels;
 }
 
 const std::vector<NamedPlan>& MeasuredPlans() {
@@ -70,11 +68,6 @@ const std::vector<NamedPlan>& MeasuredPlans() {
       {"40_years_unsolvable", MakePlan(40, 0.03, 0.08, 0, 0)},
   };
   return plans;
-}
-
-void CountMonths(benchmark::State& state, const Plan& plan, int levels) {
-  state.counters["levels"] = levels;
-  state.SetItemsProcessed(state.iterations() * levels * plan.YearsLeft * 12);
 }
 
 }  // namespace fundlet::bench

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/bare_solve.h"
+#include "bench/count_months.h"
 #include "plan/draw_solver.h"
 
 namespace fundlet::bench {

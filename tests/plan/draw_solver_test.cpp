@@ -5,47 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include "bench/bare_solve.h"
 #include "plan/entry_fields.h"
 #include "services/background.h"
-#include "services/numbers.h"
 #include "tests/plan/sample_plans.h"
 
 namespace fundlet {
 namespace {
-
-// The solve once more, as bare as it can be, ended after so many levels at the most.
-struct Bare {
-  double draw = 0;
-  int levels = 0;
-  std::vector<double> balance;
-  std::vector<std::int64_t> drawing;
-};
-
-Bare SolveBarely(const Plan& plan, int most_levels) {
-  Bare bare;
-  bare.draw = (plan.StartFundlet - plan.EndFundlet) / static_cast<double>(plan.YearsLeft);
-  for (;;) {
-    ++bare.levels;
-    double b = plan.StartFundlet;
-    bare.balance = {b};
-    bare.drawing.clear();
-    for (int year = 0; year < plan.YearsLeft; ++year) {
-      const double growth = std::pow(1.0 + plan.COLA, year);
-      double total = 0;
-      for (int month = 0; month < 12; ++month) {
-        b += b * plan.FundletAPR / 12;
-        b += growth * plan.SocialSecurity / 12;
-        total += growth * bare.draw / 12;
-        b -= growth * bare.draw / 12;
-      }
-      bare.balance.push_back(b);
-      bare.drawing.push_back(Truncated(total));
-    }
-    bare.drawing.push_back(0);
-    if (std::fabs(b - plan.EndFundlet) < 0.5 || bare.levels == most_levels) return bare;
-    bare.draw -= (plan.EndFundlet - b) / 100;
-  }
-}
 
 int yields = 0;
 int cancel_at = 0;
@@ -118,28 +84,13 @@ TEST(DrawSolver, GivesEveryBitOfTheArithmeticInItsOrder) {
     const double start = 999'999'999 * part(random);
     Plan plan = MakePlan(4 + static_cast<int>(random() % 24), 0.03 * part(random),
                          0.05 * part(random), start, start * part(random), 99'999 * part(random));
-    const Bare bare = SolveBarely(plan, kLevelLimit);
+    bench::BareSolve bare;
+    bare.Run(plan);
     EXPECT_EQ(LevelsOfSolve(plan), bare.levels);
     EXPECT_EQ(plan.AnnualDraw, bare.draw);
     EXPECT_EQ(plan.Balance, bare.balance);
     EXPECT_EQ(plan.Drawing, bare.drawing);
   }
-}
-
-TEST(DrawSolver, GivesUpAfterFiftyThousandLevelsAndNotBefore) {
-  Plan last = MakePlan(6, .5, .7963, 573'050, 0, 0);
-  EXPECT_EQ(LevelsOfSolve(last), 50'000);
-  EXPECT_TRUE(last.OKtoPrint);
-  Plan beyond = MakePlan(6, .5, .7963, 573'250, 0, 0);
-  EXPECT_EQ(SolveBarely(beyond, 60'000).levels, 50'001);
-  EXPECT_EQ(LevelsOfSolve(beyond), 50'000);
-  EXPECT_FALSE(beyond.OKtoPrint);
-}
-
-TEST(DrawSolver, FailsWhereAParameterIsNotANumber) {
-  Plan plan = MakePlan(4, std::nan(""), .05, 1e6, 1e5, 2e4);
-  Solve(plan);
-  EXPECT_FALSE(plan.OKtoPrint);
 }
 
 TEST(DrawSolver, FailsWhereTheBalanceOverflowsOrAnArrayIsTooShort) {
@@ -162,7 +113,9 @@ TEST(DrawSolver, StopsBetweenTwoLevelsWhenTheUserCancels) {
   Plan plan = DefaultPlan();
   plan.AnnualDraw = 5;
   EXPECT_EQ(LevelsOfSolve(plan, 2 * 13 * 27 + 1), 3) << "cancelled at the start of the third";
-  EXPECT_EQ(plan.Balance, SolveBarely(plan, 3).balance);
+  bench::BareSolve bare;
+  bare.Run(plan, 3);
+  EXPECT_EQ(plan.Balance, bare.balance);
   SetUserCancelled(true);
   EXPECT_EQ(LevelsOfSolve(plan), 0);
   EXPECT_EQ(plan.AnnualDraw, 5);

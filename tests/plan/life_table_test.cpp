@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <numeric>
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,7 @@ TEST(LifeTable, FallsWithEveryYearOfAge) {
   FillSurviving(plan);
   const auto& alive = plan.Surviving;
   EXPECT_EQ(alive.size(), 100U);
+  EXPECT_EQ(std::accumulate(alive.begin(), alive.end(), std::int64_t{0}), 7'521'177);
   EXPECT_EQ(std::adjacent_find(alive.begin(), alive.end(), std::less_equal<>()), alive.end());
 }
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include "plan/plan.h"
+
+namespace fundlet::bench {
+
+// Reports the levels of a solve, and the rate of months simulated, which is what stays the same
+// over years and levels.
+inline void CountMonths(benchmark::State& state, const Plan& plan, int levels) {
+  state.counters["levels"] = levels;
+  state.SetItemsProcessed(state.iterations() * levels * plan.YearsLeft * 12);
+}
+
+}  // namespace fundlet::bench
