@@ -1,22 +1,50 @@
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <string_view>
 
 #include "plan/entry_fields.h"
+#include "services/format.h"
 #include "services/text.h"
 
-// Any text reads as some number, and what a field of money shows of it reads as what is shown.
-extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t count) {
-  using namespace fundlet;
-  const std::string_view text(bytes, count);
-  if (Len(text) > count || std::isnan(Val(text))) std::abort();
+namespace fundlet {
+namespace {
+
+void Require(bool condition) {
+  if (!condition) std::abort();
+}
+
+// Any text reads as some number, and what a field shows of it reads as what is shown.
+void TryText(std::string_view text) {
+  Require(Len(text) <= text.size() && !std::isnan(Val(text)));
   for (const FocusCode field : kFocusCodes) {
     Plan plan;
     ReadField(plan, field, text);
     const std::string shown = ShownText(plan, field);
     ReadField(plan, field, shown);
-    const bool percent = field == FocusCode::COLA || field == FocusCode::FundletAPR;
-    if (!percent && ShownText(plan, field) != shown) std::abort();
+    Require(ParameterOf(field).rate != nullptr || ShownText(plan, field) == shown);
   }
+}
+
+// The text of any number reads as one that is no further off than a half of its last place.
+void TryNumber(double number) {
+  const std::pair<std::string_view, double> halves[] = {
+      {mask::kDollars, 0.5}, {mask::kPercentLeft, 0.005}, {mask::kPercent, 0.0005}};
+  for (const auto& [mask, half_a_place] : halves) {
+    const double shown = CurrencyReading(Format(number, mask));
+    const double rounding = std::fabs(number) * 0x1p-52;
+    Require(shown == number || std::fabs(shown - number) <= half_a_place + rounding);
+    Require(shown != 0 || !std::signbit(shown));
+  }
+}
+
+}  // namespace
+}  // namespace fundlet
+
+extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t count) {
+  fundlet::TryText({bytes, count});
+  double number = 0;
+  if (count >= sizeof number) std::memcpy(&number, bytes, sizeof number);
+  if (!std::isnan(number)) fundlet::TryNumber(number);
   return 0;
 }
