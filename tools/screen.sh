@@ -32,7 +32,20 @@ open_screen() {
   export DISPLAY
   openbox >"$screen_folder/openbox.log" 2>&1 &
   screen_processes+=($!)
-  wait_for 20 xdotool get_desktop
+  wait_for 20 xdotool get_desktop || return 1
+  open_bus
+}
+
+# A session bus of the screen's own, where there is D-Bus at all. Left to look for one, libdbus calls
+# for dbus-launch, and where that is missing it loses memory.
+open_bus() {
+  local bus=$screen_folder/runtime/bus
+  command -v dbus-daemon >/dev/null || return 0
+  dbus-daemon --session --nofork --nopidfile --address="unix:path=${bus// /%20}" \
+    2>"$screen_folder/bus.log" &
+  screen_processes+=($!)
+  wait_for 20 test -S "$bus" || return 1
+  export DBUS_SESSION_BUS_ADDRESS=unix:path=${bus// /%20}
 }
 
 # Ends what was started on the screen, the last first, and removes the home.

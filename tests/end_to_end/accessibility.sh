@@ -6,7 +6,7 @@ here=$(dirname "$0")
 . "$here/../../tools/screen.sh"
 
 launcher=/usr/libexec/at-spi-bus-launcher
-for command in Xvfb openbox xdotool dbus-run-session "$launcher"; do
+for command in Xvfb openbox xdotool dbus-daemon "$launcher"; do
   command -v "$command" >/dev/null && continue
   echo "Skipped: $command is not installed."
   exit 77
@@ -15,10 +15,12 @@ done
 
 trap close_screen EXIT
 open_screen 1024x640
+"$launcher" --launch-immediately 2>/dev/null &
+screen_processes+=($!)
+sleep 1
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
-# shellcheck disable=SC2016  # expanded by the inner shell
-timeout 120 dbus-run-session -- bash -euc '
-  "$1" --launch-immediately 2>/dev/null & sleep 1
-  "$2" & program=$!
-  /usr/bin/python3 "$3"
-  wait "$program"' _ "$launcher" "$program" "$here/accessibility.py"
+"$program" &
+process=$!
+screen_processes+=("$process")
+timeout 120 /usr/bin/python3 "$here/accessibility.py"
+wait "$process"
