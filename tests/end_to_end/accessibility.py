@@ -46,7 +46,8 @@ def everything():
 
 
 def find(role, name):
-    return [node for node in everything() if node.getRoleName() == role and node.name == name]
+    roles = (role, role.removeprefix("push "))  # newer releases of AT-SPI know buttons only
+    return [node for node in everything() if node.getRoleName() in roles and node.name == name]
 
 
 def text_of(node):
