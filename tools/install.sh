@@ -34,7 +34,8 @@ tests   fonts-dejavu-core -
 tests   fonts-liberation  -
 tests   fonts-noto-core   -
 fuzz    clang             clang++
-fuzz    libclang-rt-14-dev -
+fuzz    libclang-rt-dev   -
+fuzz    llvm              llvm-symbolizer
 lint    clang-format      clang-format
 lint    clang-tidy        clang-tidy
 lint    cppcheck          cppcheck
