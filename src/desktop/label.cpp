@@ -13,7 +13,7 @@ namespace {
 
 QLabel& LabelOf(const Control& control) { return static_cast<QLabel&>(*control.Native()); }
 
-Qt::Alignment HorizontalAlignment(std::int64_t align) {
+Qt::Alignment LabelAlignment(std::int64_t align) {
   constexpr std::int64_t kCentre = 1;
   constexpr std::int64_t kRight = 2;
   if (align == kCentre) return Qt::AlignHCenter;
@@ -35,7 +35,7 @@ void Label::SetText(std::string_view text) {
 }
 
 void Label::SetTextAlign(std::int64_t align) {
-  LabelOf(*this).setAlignment(HorizontalAlignment(align) | Qt::AlignVCenter);
+  LabelOf(*this).setAlignment(LabelAlignment(align) | Qt::AlignVCenter);
 }
 
 void Label::SetTextColor(Colour colour) { SetColour(LabelOf(*this), QPalette::WindowText, colour); }

@@ -79,7 +79,7 @@ FieldWidget& FieldOf(const Control& control) {
   return static_cast<FieldWidget&>(*control.Native());
 }
 
-Qt::Alignment HorizontalAlignment(std::int64_t alignment) {
+Qt::Alignment FieldAlignment(std::int64_t alignment) {
   constexpr std::int64_t kCentre = 2;
   constexpr std::int64_t kRight = 3;
   if (alignment == kCentre) return Qt::AlignHCenter;
@@ -159,7 +159,7 @@ void TextField::SetLimitText(std::int64_t limit) {
 }
 
 void TextField::SetAlignment(std::int64_t alignment) {
-  FieldOf(*this).setAlignment(HorizontalAlignment(alignment) | Qt::AlignVCenter);
+  FieldOf(*this).setAlignment(FieldAlignment(alignment) | Qt::AlignVCenter);
 }
 
 void TextField::SetReadOnly(bool read_only) { FieldOf(*this).setReadOnly(read_only); }
