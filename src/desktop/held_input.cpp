@@ -128,8 +128,7 @@ bool HeldInput::Hold(QObject* object, QEvent* event) {
 void HeldInput::ScheduleReplay() {
   if (held_.empty() || replay_scheduled_) return;
   replay_scheduled_ = true;
-  QMetaObject::invokeMethod(
-      this, [this] { ReplayNext(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &HeldInput::ReplayNext, Qt::QueuedConnection);
 }
 
 void HeldInput::ReplayNext() {

@@ -40,8 +40,8 @@ Id ClassNamed(const char* name) { return reinterpret_cast<Id>(objc_getClass(name
 Selector sel_registerName(const char* name) { return ::sel_registerName(name); }
 
 Id objc_msgSend(Id receiver, Selector message) {
-  using Send = Id (*)(Id, Selector, Id);
-  return reinterpret_cast<Send>(&::objc_msgSend)(receiver, message, nullptr);
+  using Send = Id(Id, Selector, Id);
+  return reinterpret_cast<Send*>(&::objc_msgSend)(receiver, message, nullptr);
 }
 
 // The function that is asked for takes the system's own kind of string; this one takes a plain one.

@@ -7,7 +7,7 @@ folder=$2
 . "$source/tests/packaging/helpers.sh"
 need debootstrap Xvfb openbox xdotool xprop
 [ "$(id -u)" -eq 0 ] || skip 'only root can make a fresh root.'
-[ -d "$folder/first" ] || skip 'the package has not been built.'
+[ -d "$folder/unpacked" ] || skip 'the package has not been built.'
 . /etc/os-release
 [ "$ID" = debian ] || skip 'debootstrap makes no root of this system.'
 
@@ -22,7 +22,7 @@ apt_in_root() {
     { tail -50 "$folder/apt.log"; wrong "apt-get $*"; }
 }
 
-cp "$folder"/first/*.deb "$root/fundlet.deb"
+cp "$folder"/*.deb "$root/fundlet.deb"
 apt_in_root install --no-install-recommends /fundlet.deb
 files=$("${in_root[@]}" dpkg -L fundlet)
 open_screen 1024x640 || wrong 'the virtual screen did not open'
