@@ -134,6 +134,16 @@ TEST_F(Gate, AWindowClosedDuringAComputationClosesAfterIt) {
   EXPECT_EQ(bench_->log, (Log{"begin", "end", "close"}));
 }
 
+TEST_F(Gate, AKeyHeldDownActsOnce) {
+  bench_->ControlOf<PushButton>("Go").Action = [this](PushButton&) { bench_->log.push_back("go"); };
+  for (const bool repeated : {false, true}) {
+    QTest::simulateEvent(Native(), true, Qt::Key_Return, {}, "\r", repeated, -1);
+    QTest::simulateEvent(Native(), true, Qt::Key_P, Qt::ControlModifier, {}, repeated, -1);
+    user::Settle();
+  }
+  EXPECT_EQ(bench_->log, (Log{"go", "shortcut"}));
+}
+
 TEST_F(HeldInput, ComesAfterTheComputationInItsOrderAndNeverInsideIt) {
   Compute([this] {
     QTest::keyClick(Native(), 'a');
@@ -184,15 +194,8 @@ TEST_F(Wheel, TurnsWhileAComputationYields) {
 }
 
 TEST_F(Wheel, IsPaintedAwayBeforeAnythingElseHappens) {
-  struct Paints : QObject {
-    int count = 0;
-    bool eventFilter(QObject* /*object*/, QEvent* event) override {
-      count += event->type() == QEvent::Paint ? 1 : 0;
-      return false;
-    }
-  } paints;
   auto& wheel = bench_->ControlOf<ProgressWheel>("Wheel");
-  bench_->Native().Content().installEventFilter(&paints);
+  const Paints paints(bench_->Native().Content());
   wheel.SetVisible(false);
   wheel.Refresh(true);
   EXPECT_EQ(paints.count, 1);

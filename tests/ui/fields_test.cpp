@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QMessageBox>
 #include <QTest>
 #include <QToolTip>
 
@@ -32,7 +33,10 @@ TEST_F(Validation, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
     SCOPED_TRACE(message);
     user::Key(Qt::Key_R, Qt::ControlModifier);
     Fill(field, typed);
-    ExpectDialog(answer);
+    ExpectDialog([&](QWidget& dialog) {
+      EXPECT_EQ(static_cast<QMessageBox&>(dialog).icon(), QMessageBox::Warning);
+      answer(dialog);
+    });
     Calculate();
     EXPECT_EQ(TakeDialogs(), std::vector<std::string>{message});
     EXPECT_EQ(FocusName(), field);
@@ -87,17 +91,19 @@ TEST_F(Fields, AMenuOrAToolTipIsNoLossOfFocus) {
       [] { user::Key(Qt::Key_E, Qt::AltModifier); },
   };
   for (const auto& open : openings) {
+    user::Key(Qt::Key_A, Qt::ControlModifier);
     open();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     while (QApplication::activePopupWidget() != nullptr) user::Key(Qt::Key_Escape);
     if (FocusName() == "") user::Key(Qt::Key_Escape);  // the bar keeps the keys at first
-    EXPECT_EQ(Text("StartFundletField"), "1234.5");
+    EXPECT_EQ(Selected("StartFundletField"), "1234.5");
     EXPECT_EQ(ThePlan().StartFundlet, 1000000.0);
     EXPECT_EQ(FocusName(), "StartFundletField");
   }
   QToolTip::showText({}, "tip");
   user::Settle();
   EXPECT_EQ(Text("StartFundletField"), "1234.5");
+  user::Key(Qt::Key_End);
   user::Type("6");
   QWidget& field = Found("StartFundletField");
   QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, field.mapToGlobal(QPoint(5, 5)));

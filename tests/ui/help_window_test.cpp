@@ -125,6 +125,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   user::Key(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "Fundlet");
   EXPECT_FALSE(Window().MenuBar()._Lookup("FileSave").Enabled());
+  EXPECT_TRUE(Window().MenuBar()._Lookup("HelpFundlet").Enabled());
   user::Key(Qt::Key_Tab);
   user::Click(*area.viewport());
   EXPECT_EQ(area.textCursor().selectedText(), "");

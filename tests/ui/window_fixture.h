@@ -46,6 +46,15 @@ Widget& Found(const QString& name) {
   }
   throw std::runtime_error("no widget " + name.toStdString());
 }
+// Counts how often a widget is painted.
+struct Paints : QObject {
+  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* /*object*/, QEvent* event) override {
+    count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+  int count = 0;
+};
 std::string FocusName();  // the object name of the widget that has the focus, empty for none
 
 // How a person answers a dialog.
