@@ -46,44 +46,6 @@ TEST_F(Validation, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
   }
 }
 
-TEST_F(Validation, TheNextPressPassesAfterARefusalAndMeetsTheNextBadValue) {
-  Fill("COLAField", "100");
-  Fill("EndFundletField", "-5");
-  ExpectDialog(ByKey(Qt::Key_Return));
-  Calculate();
-  Fill("COLAField", "2");
-  ExpectDialog(ByKey(Qt::Key_Return));
-  Calculate();
-  EXPECT_EQ(TakeDialogs().back(), "Terminal fundlet must be at least $0.");
-  Calculate();
-  EXPECT_NE(Result(), "Initial Year Draw:  $0");
-}
-
-TEST_F(Fields, AWholePlanIsTypedWithTabAndReturnOnly) {
-  for (const char* text : {"2010", "70", "4", "2.5", "500000", "5", "20000", "100000"}) {
-    user::Type(text);
-    if (text != std::string_view("100000")) user::Key(Qt::Key_Tab);
-  }
-  Calculate();
-  EXPECT_EQ(Result(), "Initial Year Draw:  $131,468");
-  EXPECT_EQ(FocusName(), "EndFundletField");
-}
-
-TEST_F(Fields, AnyPastedTextIsReadOrRefusedAndNothingCrashes) {
-  const QString texts[] = {QString(10'000, '9'), "１２３", "1e999", "-", "\n7\n", "NaN", "é😀",
-                           QString(3, QChar(0)), "0x10"};
-  for (const QString& text : texts) {
-    for (const char* field : {"StartYearField", "COLAField", "SocialSecurityField"}) {
-      Fill(field, "");
-      QGuiApplication::clipboard()->setText(text);
-      user::Key(Qt::Key_V, Qt::ControlModifier);
-      EXPECT_LE(Found<QLineEdit>(field).text().size(), 6);
-      user::Key(Qt::Key_Tab);
-      EXPECT_FALSE(Text(field).empty());
-    }
-  }
-}
-
 TEST_F(Fields, AMenuOrAToolTipIsNoLossOfFocus) {
   Fill("StartFundletField", "1234.5");
   const std::function<void()> openings[] = {

@@ -80,10 +80,6 @@ TEST_F(Help, StandsAsMadeUntilItIsResizedAndThenFollowsItsSize) {
 
 TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
   const std::string page = HelpText();
-  EXPECT_EQ(page.substr(0, 19), "Fundlet\rVersion 5\r\r");
-  EXPECT_TRUE(page.ends_with(
-      "\r\rYou may view this window at any time by pressing the Help key (or control-e)."));
-  EXPECT_EQ(page.find('\n'), std::string::npos);
   EXPECT_EQ(page.size(), 4908U);
   EXPECT_EQ(std::count(page.begin(), page.end(), '\r'), 45);
   user::Key(Qt::Key_F1);

@@ -79,6 +79,7 @@ TEST_F(MainWindow, ReturnSolvesTheDefaultPlanAndGoesBackToTheField) {
   Calculate();
   user::VisitAnotherWindow(Main().Native());
   EXPECT_EQ(Result(), result);
+  EXPECT_TRUE(Found("PrintButton").isEnabled());
 }
 
 TEST_F(MainWindow, APlanThatCannotBeSolvedIsToldAndTheNextOneSolves) {
