@@ -1,7 +1,5 @@
 #include <QClipboard>
 #include <QFileDialog>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 
 #include "desktop/message_sending.h"
