@@ -60,12 +60,9 @@ TEST_F(Selection, CountsACharacterBeyondTheFirstPlaneOnce) {
 }
 
 TEST_F(ToolTip, WrapsAndShowsOnADimmedButtonToo) {
-  const struct {
-    const char *control, *part;
-  } cases[] = {{"PrintButton", "save a schedule of draws"},
-               {"YearsLeftField", "after the first year.<br><br>Use the Edit"},
-               {"CalculateButton", "will last till you die"}};
-  for (const auto& [control, part] : cases) {
+  for (const auto& [control, part] :
+       {std::pair("PrintButton", "save a schedule of draws"),
+        std::pair("YearsLeftField", "after the first year.<br><br>Use the Edit")}) {
     QWidget& widget = Found(control);
     QWidget& window = *widget.window();
     QTest::mouseMove(window.windowHandle(), widget.mapTo(&window, QPoint(9, 9)));
