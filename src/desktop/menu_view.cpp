@@ -1,7 +1,6 @@
 #include "desktop/menu_view.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -13,8 +12,6 @@
 namespace fundlet {
 
 namespace {
-
-constexpr const char* kActionsName = "fundlet menu actions";
 
 QString Escaped(const std::string& text) { return ToQt(text).replace('&', "&&"); }
 
@@ -28,32 +25,6 @@ QAction::MenuRole RoleOf(const MenuItem& item) {
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return QAction::QuitRole;
   if (dynamic_cast<const AppleMenuItem*>(&item) != nullptr) return QAction::AboutRole;
   return QAction::NoRole;
-}
-
-// The holder of the shared actions; it goes with the toolkit.
-QObject& SharedActions() {
-  auto* holder = qApp->findChild<QObject*>(kActionsName, Qt::FindDirectChildrenOnly);
-  if (holder == nullptr) {
-    holder = new QObject(qApp);
-    holder->setObjectName(kActionsName);
-  }
-  return *holder;
-}
-
-QAction& SharedAction(MenuItem& item) {
-  QObject& holder = SharedActions();
-  const QString name = ToQt(item.Name);
-  if (auto* action = holder.findChild<QAction*>(name, Qt::FindDirectChildrenOnly)) return *action;
-  auto* action = new QAction(Escaped(item.Text), &holder);
-  action->setObjectName(name);
-  action->setShortcut(Shortcut(item));
-  action->setAutoRepeat(false);
-  action->setMenuRole(RoleOf(item));
-  action->setEnabled(false);
-  QObject::connect(action, &QAction::triggered, action, [&item] {
-    if (Window* front = NativeWindow::Active(); front != nullptr) front->Choose(item);
-  });
-  return *action;
 }
 
 }  // namespace
@@ -81,10 +52,21 @@ void MenuView::AddItem(QMenu& menu, MenuItem& item) {
   } else if (item.OpensMenu()) {
     AddMenuTo(menu, item);
   } else {
-    QAction& action = SharedAction(item);
-    menu.addAction(&action);
-    shown_.push_back({&item, &action});
+    shown_.push_back({&item, &AddAction(menu, item)});
   }
+}
+
+QAction& MenuView::AddAction(QMenu& menu, MenuItem& item) {
+  QAction& action = *menu.addAction(Escaped(item.Text));
+  action.setObjectName(ToQt(item.Name));
+  action.setShortcut(Shortcut(item));
+  action.setAutoRepeat(false);
+  action.setMenuRole(RoleOf(item));
+  action.setEnabled(false);
+  QObject::connect(&action, &QAction::triggered, &menu, [this, &item] {
+    if (NativeWindow::Active() != nullptr) window_.Choose(item);
+  });
+  return action;
 }
 
 void MenuView::AddMenuTo(QMenu& menu, MenuItem& item) {

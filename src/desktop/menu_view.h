@@ -13,8 +13,8 @@ namespace fundlet {
 class MenuItem;
 class Window;
 
-// One window's menus on the screen, made from the tree of items. The tree exists once; so does the
-// action behind each command, which all windows share. The bar and the menus are the window's own.
+// One window's menus on the screen, made from the tree of items. The tree exists once; the bar, the
+// menus and the actions are the window's own, and act on that window.
 class MenuView {
  public:
   MenuView(Window& window, const MenuItem& tree, QMenuBar& bar);
@@ -31,6 +31,7 @@ class MenuView {
   };
 
   void AddItem(QMenu& menu, MenuItem& item);
+  QAction& AddAction(QMenu& menu, MenuItem& item);
   void AddMenuTo(QMenu& menu, MenuItem& item);
   void Fill(QMenu& menu, MenuItem& item);
 
