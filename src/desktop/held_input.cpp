@@ -8,6 +8,7 @@
 
 #include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
+#include "desktop/own_frame.h"
 #include "desktop/program_gate.h"
 #include "services/background.h"
 
@@ -19,6 +20,9 @@ namespace {
 // some tenths of a millisecond.
 constexpr qint64 kPumpMilliseconds = 8;
 constexpr int kYieldsPerLook = 20'000;
+
+// How long a click waits for the activation of its window, which may not come.
+constexpr int kPatienceMilliseconds = 200;
 
 HeldInput* instance = nullptr;
 
@@ -66,6 +70,9 @@ bool IsCancelGesture(const QEvent& event) {
 HeldInput::HeldInput() {
   instance = this;
   QCoreApplication::instance()->installEventFilter(this);
+  patience_.setSingleShot(true);
+  patience_.setInterval(kPatienceMilliseconds);
+  connect(&patience_, &QTimer::timeout, this, &HeldInput::StopAwaiting);
   SetBackgroundTask(&HeldInput::Pump);
 }
 
@@ -88,15 +95,34 @@ int HeldInput::Pump() {
 
 bool HeldInput::MustHold() const {
   const bool behind_held = !held_.empty() && !replaying_ && !ProgramGate::Instance().Busy();
-  return pumping_ || behind_held;
+  return pumping_ || awaited_ != nullptr || behind_held;
+}
+
+bool HeldInput::ComesBeforeActivation(QObject* object, const QEvent& event) const {
+  return QGuiApplication::platformName().startsWith("wayland") && !replaying_ &&
+         event.type() == QEvent::MouseButtonPress && object->isWindowType() &&
+         object != QGuiApplication::focusWindow() && NativeWindow::Of(object) != nullptr &&
+         !ModalDialog::IsOpen() && QApplication::activePopupWidget() == nullptr &&
+         !OwnFrame::Takes(object, event);
+}
+
+void HeldInput::StopAwaiting() {
+  awaited_.clear();
+  patience_.stop();
+  ScheduleReplay();
 }
 
 bool HeldInput::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) StopAwaiting();
   if (!IsUserInput(*event)) return false;
   if (pumping_ && IsCancelGesture(*event)) {
     if (event->type() == QEvent::KeyPress) SetUserCancelled(true);
     event->accept();
     return true;
+  }
+  if (!MustHold() && ComesBeforeActivation(object, *event)) {
+    awaited_ = qobject_cast<QWindow*>(object);
+    patience_.start();
   }
   if (MustHold()) return Hold(object, event);
   if (ModalDialog::Blocks(object, *event)) {
@@ -134,7 +160,7 @@ void HeldInput::ScheduleReplay() {
 void HeldInput::ReplayNext() {
   replay_scheduled_ = false;
   // The gate calls again when it is idle.
-  if (held_.empty() || ProgramGate::Instance().Busy()) return;
+  if (held_.empty() || awaited_ != nullptr || ProgramGate::Instance().Busy()) return;
   const Held next = std::move(held_.front());
   held_.pop_front();
   if (next.receiver != nullptr) {

@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
+#include <QWindow>
 
 namespace fundlet {
 
@@ -14,6 +16,9 @@ namespace fundlet {
 // are held, and handed on in their order when the handler that computes has returned. The gesture
 // that cancels (Escape, or Ctrl and full stop; Cmd on a Mac) is the exception: it takes effect at
 // once.
+//
+// On some desktops a click reaches a window before the activation that it brings. It is held until
+// then, so that what the activation does with the focus comes before what the user has clicked on.
 //
 // It is also the place that sees each key before the toolkit looks up its shortcut, and so lets
 // the front window decide first which menu items can be chosen.
@@ -34,11 +39,15 @@ class HeldInput : public QObject {
 
   static int Pump();
   bool MustHold() const;
+  bool ComesBeforeActivation(QObject* object, const QEvent& event) const;
+  void StopAwaiting();
   bool Hold(QObject* object, QEvent* event);
   void ReplayNext();
   static void Deliver(QObject& receiver, QEvent& event);
 
   std::deque<Held> held_;
+  QPointer<QWindow> awaited_;  // the window that a held click activates
+  QTimer patience_;
   bool pumping_ = false;
   bool replaying_ = false;
   bool replay_scheduled_ = false;

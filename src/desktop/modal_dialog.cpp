@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include "desktop/native_window.h"
+#include "desktop/own_frame.h"
 #include "desktop/window.h"
 
 namespace fundlet {
@@ -43,6 +44,7 @@ void ModalDialog::Run(QDialog& dialog, Window* owner) {
   const OpenDialog open(dialog, owner);
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
+  OwnFrame::PutRound(dialog);
   dialog.raise();
   dialog.activateWindow();
   loop.exec();
@@ -67,6 +69,7 @@ bool IsBeneath(QObject* object) {
 
 bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
   if (!IsOpen() || event.type() == QEvent::Close || !IsBeneath(object)) return false;
+  if (OwnFrame::Takes(object, event)) return false;
   if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::KeyPress) {
     OpenDialogs().back().dialog->raise();
     OpenDialogs().back().dialog->activateWindow();

@@ -10,6 +10,7 @@
 #include <QWindow>
 
 #include "desktop/modal_dialog.h"
+#include "desktop/own_frame.h"
 #include "desktop/program_gate.h"
 #include "desktop/program_style.h"
 #include "desktop/push_button.h"
@@ -32,7 +33,7 @@ constexpr auto kControlModifier = Qt::ControlModifier;
 // layout leaves between the controls.
 class ContentWidget : public QWidget {
  public:
-  explicit ContentWidget(const Window& window) : window_(window) {}
+  ContentWidget(const Window& window, QWidget* parent) : QWidget(parent), window_(window) {}
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
@@ -73,8 +74,10 @@ NativeWindow::NativeWindow(Window& window) : window_(window) {
   setContextMenuPolicy(Qt::NoContextMenu);
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                  Qt::WindowSystemMenuHint);
-  setCentralWidget(new ContentWidget(window));
+  setCentralWidget(new QWidget);
+  content_ = new ContentWidget(window, centralWidget());
   centralWidget()->installEventFilter(this);
+  layout()->setSizeConstraint(QLayout::SetNoConstraint);
 }
 
 NativeWindow* NativeWindow::Of(QObject* object) {
@@ -100,7 +103,7 @@ void NativeWindow::SetContentSize(int width, int height) {
 }
 
 QSize NativeWindow::ContentSize() const {
-  return isVisible() && resizeable_ ? centralWidget()->size() : content_size_;
+  return isVisible() && resizeable_ ? content_->size() : content_size_;
 }
 
 void NativeWindow::SetSmallest(int width, int height) {
@@ -118,17 +121,24 @@ void NativeWindow::SetResizeable(bool resizeable) {
   FitToContent();
 }
 
+QSize NativeWindow::Outside() const {
+  const QMargins margins = contentsMargins();
+  const int menu_height = menus_ ? menuBar()->heightForWidth(content_size_.width()) : 0;
+  return {margins.left() + margins.right(), margins.top() + margins.bottom() + menu_height};
+}
+
 void NativeWindow::FitToContent() {
-  if (!resizeable_) {
-    centralWidget()->setFixedSize(content_size_);
-    layout()->setSizeConstraint(QLayout::SetFixedSize);
-    return;
+  outside_ = Outside();
+  const QSize largest(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  if (takes_any_size_) {
+    setMinimumSize(0, 0);
+    setMaximumSize(largest);
+  } else {
+    setMinimumSize((resizeable_ ? smallest_ : content_size_) + outside_);
+    setMaximumSize(((resizeable_ ? largest_ : content_size_) + outside_).boundedTo(largest));
   }
-  layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
-  centralWidget()->setMinimumSize(smallest_);
-  centralWidget()->setMaximumSize(largest_);
-  const int menu_height = menus_ ? menuBar()->sizeHint().height() : 0;
-  resize(content_size_ + QSize(0, menu_height));
+  content_->resize(content_size_);
+  if (!isMaximized() && !isFullScreen()) resize(content_size_ + outside_);
 }
 
 void NativeWindow::SetButton(Qt::WindowType button, bool present) {
@@ -147,6 +157,12 @@ void NativeWindow::ShowMenus() {
   if (!menu_bar_visible_) return;
   menus_ = std::make_unique<MenuView>(window_, window_.MenuBar(), *menuBar());
   FitToContent();
+}
+
+void NativeWindow::ShowFirst() {
+  show();
+  takes_any_size_ = OwnFrame::PutRound(*this);
+  if (takes_any_size_) FitToContent();
 }
 
 void NativeWindow::BeforeShortcut(QKeyCombination keys) {
@@ -175,7 +191,9 @@ bool NativeWindow::HandleKey(const QKeyEvent& event) {
 bool NativeWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) window_.Activated();
   if (event->type() == QEvent::WindowDeactivate) window_.Deactivated();
-  return QMainWindow::event(event);
+  const bool used = QMainWindow::event(event);
+  if (event->type() == QEvent::LayoutRequest && Outside() != outside_) FitToContent();
+  return used;
 }
 
 // The icon is read when the first window has been painted: nobody is to wait for it.
@@ -207,6 +225,7 @@ bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
   // The first show brings a resize to the size that the window was made with, which is none.
   if (resized && centralWidget()->size() != content_size_) {
     content_size_ = centralWidget()->size();
+    content_->resize(content_size_);
     ProgramGate::Instance().EnterWithin("", [this] { window_.Event_Resized(); });
   }
   return QMainWindow::eventFilter(object, event);

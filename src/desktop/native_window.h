@@ -12,7 +12,9 @@ namespace fundlet {
 
 class Window;
 
-// The toolkit's side of a window: a main window whose central widget is the content area.
+// The toolkit's side of a window: a main window whose central widget holds the content area. The
+// desktop may give the window another size than that of the content, which then stands at the top
+// left of a ground in its colour.
 class NativeWindow : public QMainWindow {
  public:
   explicit NativeWindow(Window& window);
@@ -24,7 +26,7 @@ class NativeWindow : public QMainWindow {
   static Window* Active();
 
   Window& Program() const { return window_; }
-  QWidget& Content() const { return *centralWidget(); }
+  QWidget& Content() const { return *content_; }
 
   void SetContentSize(int width, int height);
   QSize ContentSize() const;
@@ -40,6 +42,8 @@ class NativeWindow : public QMainWindow {
 
   // Makes the menus; to be called once the window's set of menus is settled.
   void ShowMenus();
+  // Shows the window for the first time.
+  void ShowFirst();
   // Runs the enabling pass when the keys may be the shortcut of an item.
   void BeforeShortcut(QKeyCombination keys);
   bool TriggerShortcut(QKeyCombination keys);
@@ -58,14 +62,18 @@ class NativeWindow : public QMainWindow {
   QMenu* createPopupMenu() override { return nullptr; }
 
  private:
+  QSize Outside() const;  // what the window takes beyond its content
   void FitToContent();
 
   Window& window_;
+  QWidget* content_;
   std::unique_ptr<MenuView> menus_;
   QSize content_size_ = {0, 0};
   QSize smallest_ = {0, 0};
   QSize largest_ = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
   bool resizeable_ = false;
+  QSize outside_ = {0, 0};
+  bool takes_any_size_ = false;
   bool menu_bar_visible_ = true;
 };
 

@@ -109,7 +109,7 @@ void Window::FirstShow() {
     SetLeft(screen.AvailableLeft() + (screen.AvailableWidth() - Width()) / 2);
     SetTop(screen.AvailableTop() + (screen.AvailableHeight() - Height()) / 2);
   }
-  native_->show();
+  native_->ShowFirst();
   native_->raise();
   native_->activateWindow();
   if (first != nullptr) first->SetFocus();
