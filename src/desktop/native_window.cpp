@@ -1,5 +1,7 @@
 #include "desktop/native_window.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QIcon>
 #include <QKeyEvent>
@@ -131,7 +133,7 @@ void NativeWindow::FitToContent() {
   outside_ = Outside();
   const QSize largest(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   if (takes_any_size_) {
-    setMinimumSize(0, 0);
+    setMinimumSize(resizeable_ ? smallest_ + outside_ : QSize(0, 0));
     setMaximumSize(largest);
   } else {
     setMinimumSize((resizeable_ ? smallest_ : content_size_) + outside_);
@@ -161,7 +163,10 @@ void NativeWindow::ShowMenus() {
 
 void NativeWindow::ShowFirst() {
   show();
+  // The frame takes nothing from the content.
+  const bool resizeable = std::exchange(resizeable_, false);
   takes_any_size_ = OwnFrame::PutRound(*this);
+  resizeable_ = resizeable;
   if (takes_any_size_) FitToContent();
 }
 

@@ -15,6 +15,7 @@ namespace fundlet {
 namespace {
 
 constexpr int kBorder = 1;
+constexpr int kGrip = 5;  // the border of a window that can be resized by it
 constexpr int kTitleHeight = 32;
 
 QPen InkOf(const QWidget& widget) {
@@ -50,19 +51,26 @@ class FrameButton : public QAbstractButton {
 // Lies beneath all that the window holds; the window's margins leave the frame's strips free.
 class FrameWidget : public QWidget {
  public:
-  explicit FrameWidget(QWidget& window) : QWidget(&window), window_(window) {
+  explicit FrameWidget(QWidget& window)
+      : QWidget(&window),
+        window_(window),
+        resizeable_(window.minimumSize() != window.maximumSize()),
+        border_(resizeable_ ? kGrip : kBorder) {
     setPalette(QApplication::palette());
     setFont(QApplication::font());
     AddButton("Close", {{-5, -5, 5, 5}, {-5, 5, 5, -5}}, [this] { window_.close(); });
     if (window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint)) {
       AddButton("Minimise", {{-5, 4, 5, 4}}, [this] { window_.showMinimized(); });
     }
-    window.setContentsMargins(kBorder, kBorder + kTitleHeight, kBorder, kBorder);
+    window.setContentsMargins(border_, TitleBottom(), border_, border_);
+    setMouseTracking(resizeable_);
     window.installEventFilter(this);
     Fit();
     lower();
     show();
   }
+
+  int TitleBottom() const { return border_ + kTitleHeight; }
 
  protected:
   bool eventFilter(QObject* /*object*/, QEvent* event) override {
@@ -84,18 +92,48 @@ class FrameWidget : public QWidget {
     painter.setFont(bold);
     painter.setPen(InkOf(*this));
     const int room = static_cast<int>(buttons_.size()) * kTitleHeight;
-    const QRect title(room, kBorder, width() - 2 * room, kTitleHeight);
+    const QRect title(room, border_, width() - 2 * room, kTitleHeight);
     painter.drawText(
         title, Qt::AlignCenter,
         painter.fontMetrics().elidedText(window_.windowTitle(), Qt::ElideRight, title.width()));
   }
 
   void mousePressEvent(QMouseEvent* event) override {
-    const bool on_title = event->position().y() < kBorder + kTitleHeight;
-    if (on_title && event->button() == Qt::LeftButton) window_.windowHandle()->startSystemMove();
+    if (event->button() != Qt::LeftButton) return;
+    const QPointF at = event->position();
+    if (const Qt::Edges edges = EdgesAt(at)) {
+      window_.windowHandle()->startSystemResize(edges);
+    } else if (at.y() < TitleBottom()) {
+      window_.windowHandle()->startSystemMove();
+    }
+  }
+
+  void mouseMoveEvent(QMouseEvent* event) override {
+    const Qt::Edges edges = EdgesAt(event->position());
+    const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
+    const bool along = edges & (Qt::TopEdge | Qt::BottomEdge);
+    const bool falling =
+        edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
+    if (across && along) {
+      setCursor(falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor);
+    } else if (across || along) {
+      setCursor(across ? Qt::SizeHorCursor : Qt::SizeVerCursor);
+    } else {
+      unsetCursor();
+    }
   }
 
  private:
+  Qt::Edges EdgesAt(QPointF at) const {
+    Qt::Edges edges;
+    if (!resizeable_) return edges;
+    if (at.x() < border_) edges |= Qt::LeftEdge;
+    if (at.x() >= width() - border_) edges |= Qt::RightEdge;
+    if (at.y() < border_) edges |= Qt::TopEdge;
+    if (at.y() >= height() - border_) edges |= Qt::BottomEdge;
+    return edges;
+  }
+
   void AddButton(const QString& name, std::vector<QLineF> strokes, std::function<void()> act) {
     buttons_.push_back(new FrameButton(*this, name, std::move(strokes)));
     connect(buttons_.back(), &QAbstractButton::clicked, this, std::move(act));
@@ -103,14 +141,16 @@ class FrameWidget : public QWidget {
 
   void Fit() {
     setGeometry(window_.rect());
-    int right = width() - kBorder;
+    int right = width() - border_;
     for (QAbstractButton* button : buttons_) {
       right -= kTitleHeight;
-      button->setGeometry(right, kBorder, kTitleHeight, kTitleHeight);
+      button->setGeometry(right, border_, kTitleHeight, kTitleHeight);
     }
   }
 
   QWidget& window_;
+  bool resizeable_;
+  int border_;
   std::vector<QAbstractButton*> buttons_;  // from the right
 };
 
@@ -130,6 +170,9 @@ bool OwnFrame::PutRound(QWidget& window) {
   if (!toolkit_draws) return FrameOf(window) != nullptr;
   native->setFlags(native->flags() | Qt::FramelessWindowHint);
   new FrameWidget(window);
+  // A dialog settles its size anew for the frame.
+  QCoreApplication::sendPostedEvents(&window, QEvent::LayoutRequest);
+  window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   return true;
 }
 
@@ -139,10 +182,11 @@ bool OwnFrame::Takes(const QObject* object, const QEvent& event) {
       event.type() == QEvent::MouseButtonDblClick || event.type() == QEvent::MouseMove;
   if (!mouse) return false;
   const double y = static_cast<const QMouseEvent&>(event).scenePosition().y();
+  const auto* widget = qobject_cast<const QWidget*>(object);
   for (const QWidget* window : QApplication::topLevelWidgets()) {
-    const bool here = window->windowHandle() == object ||
-                      window->isAncestorOf(qobject_cast<const QWidget*>(object));
-    if (here && FrameOf(*window) != nullptr) return y < kBorder + kTitleHeight;
+    const bool here = window->windowHandle() == object || window->isAncestorOf(widget);
+    const FrameWidget* frame = here ? FrameOf(*window) : nullptr;
+    if (frame != nullptr) return y < frame->TitleBottom();
   }
   return false;
 }
