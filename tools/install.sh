@@ -30,6 +30,8 @@ tests   appstream         appstreamcli
 tests   man-db            man
 tests   x11-utils         xprop
 tests   strace            strace
+tests   weston            weston
+tests   qt6-wayland       -
 tests   fonts-dejavu-core -
 tests   fonts-liberation  -
 tests   fonts-noto-core   -

@@ -48,6 +48,28 @@ open_bus() {
   export DBUS_SESSION_BUS_ADDRESS=unix:path=${bus// /%20}
 }
 
+# Opens a Wayland desktop that fills such a screen, and lets the programs frame their windows.
+open_wayland() {
+  open_screen "$1" || return 1
+  printf '%s\n' '[shell]' panel-position=none close-animation=none startup-animation=none \
+    '[input-method]' path= >"$screen_folder/weston.ini"
+  weston --backend=x11-backend.so --use-pixman --fullscreen --socket=wayland-test --idle-time=0 \
+    --debug --config="$screen_folder/weston.ini" --log="$screen_folder/weston.log" >/dev/null 2>&1 &
+  screen_processes+=($!)
+  export WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland
+  wait_for 20 weston-debug scene-graph || return 1
+  # It follows the pointer's way and not its place, until the pointer has been in a corner.
+  xdotool mousemove 4000 4000 sleep 0.5 mousemove 0 0 sleep 0.5
+}
+
+on_wayland() { [ -n "${WAYLAND_DISPLAY:-}" ]; }
+
+# The windows on the Wayland desktop, the front one first: WINDOW PROCESS X Y RIGHT BOTTOM TITLE.
+wayland_windows() {
+  weston-debug scene-graph | sed -nE "/role xdg_toplevel/ { N
+    s/.*PID ([0-9]+), surface ID ([0-9]+)[^']*'(.*)'.*: \((-?[0-9]+), (-?[0-9]+)\) -> \((-?[0-9]+), (-?[0-9]+)\).*/\2 \1 \4 \5 \6 \7 \3/p }"
+}
+
 # Ends what was started on the screen, the last first, and removes the home.
 close_screen() {
   local i
@@ -60,8 +82,61 @@ close_screen() {
 }
 
 # The window that has the keyboard, and the process it belongs to.
-active_window() { xdotool getactivewindow 2>/dev/null; }
-active_process() { xdotool getwindowpid "$(active_window)" 2>/dev/null; }
+active_window() {
+  if on_wayland; then wayland_windows | awk '{ print $1; exit }'; else xdotool getactivewindow 2>/dev/null; fi
+}
+active_process() {
+  if on_wayland; then
+    wayland_windows | awk '{ print $2; exit }'
+  else
+    xdotool getwindowpid "$(active_window)" 2>/dev/null
+  fi
+}
+
+window_title() {
+  if on_wayland; then
+    wayland_windows | sed -nE "s/^$1 ([^ ]+ ){5}//p"
+  else
+    xdotool getwindowname "$1"
+  fi
+}
+
+# The place on the Wayland desktop, or 0 0, and the size of a window: X Y WIDTH HEIGHT.
+window_place() {
+  if on_wayland; then
+    wayland_windows | awk -v window="$1" '$1 == window { print $3, $4, $5 - $3, $6 - $4 }'
+  else
+    xdotool getwindowgeometry --shell "$1" | awk -F= '/^WIDTH/ { w = $2 } /^HEIGHT/ { print 0, 0, w, $2 }'
+  fi
+}
+
+# window_picture WINDOW X Y WIDTH HEIGHT FILE: a part of the window.
+window_picture() {
+  local x y rest window=root
+  read -r x y rest < <(window_place "$1")
+  on_wayland || window=$1
+  import -silent -window "$window" -crop "$4x$5+$((x + $2))+$((y + $3))" -depth 8 "$6"
+}
+
+# click_in WINDOW X Y: a click of the mouse on that place of the window.
+click_in() {
+  local x y rest
+  read -r x y rest < <(window_place "$1")
+  if on_wayland; then
+    xdotool mousemove "$((x + $2))" "$((y + $3))"
+  else
+    xdotool mousemove --window "$1" "$2" "$3"
+  fi
+  xdotool sleep 0.2 click 1
+}
+
+# move_window WINDOW X Y: drags the window by its title to that place of the Wayland desktop.
+move_window() {
+  local x y rest
+  read -r x y rest < <(window_place "$1")
+  xdotool mousemove "$((x + 100))" "$((y + 15))" sleep 0.2 mousedown 1 sleep 0.2 \
+    mousemove "$(($2 + 60))" "$(($3 + 15))" mousemove "$(($2 + 100))" "$(($3 + 15))" sleep 0.2 mouseup 1
+}
 
 is_active() { [ "$(active_window)" = "$1" ]; }
 

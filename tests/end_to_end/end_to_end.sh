@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The built program on a virtual screen, used by typed keys alone:
-# end_to_end.sh PROGRAM [PICTURES]
+# [SESSION=wayland] end_to_end.sh PROGRAM [PICTURES]
 # Leaves the pictures of the README in the folder PICTURES, where one is named.
 set -euo pipefail
 program=$1
@@ -8,7 +8,10 @@ pictures=${2:-}
 here=$(dirname "$0")
 . "$here/../../tools/screen.sh"
 
-for command in Xvfb openbox xdotool import; do
+session=${SESSION:-x11}
+needed=(Xvfb openbox xdotool import)
+[ "$session" = x11 ] || needed+=(weston)
+for command in "${needed[@]}"; do
   command -v "$command" >/dev/null && continue
   echo "Skipped: $command is not installed, and without it there is no virtual screen to work on."
   exit 77
@@ -23,18 +26,19 @@ expect() { # WHAT EXPECTED FOUND
   [ "$2" = "$3" ] || wrong "$1"$'\n'"  expected: $2"$'\n'"  found:    $3"
 }
 
-# Starts the program and waits for its window. Sets process, main and menu_bar, the height that the
-# menu bar takes in the window.
+# Starts the program and waits for its window. Sets process, main, and left and top, the place of the
+# content in the window.
 start_program() {
   "$program" &
   process=$!
   screen_processes+=("$process")
   wait_for 60 other_window_of_is_active "$process" none || wrong 'the window did not open'
   main=$(active_window)
-  local WIDTH HEIGHT
-  eval "$(xdotool getwindowgeometry --shell "$main" | grep -E '^(WIDTH|HEIGHT)=[0-9]+$')"
-  expect 'width' 740 "$WIDTH"
-  menu_bar=$((HEIGHT - 220))
+  local x y width height
+  read -r x y width height < <(window_place "$main")
+  left=$(((width - 740) / 2))
+  expect 'width of the border' "$([ "$session" = x11 ] && echo 0 || echo 1)" "$left"
+  top=$((height - 220 - left))
 }
 
 expect_end() {
@@ -51,11 +55,9 @@ expect_parameters() { # WHEN BYTES
 }
 
 colour_at() {
-  import -silent -window "$main" -crop "1x1+$1+$2" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}'
+  window_picture "$main" $((left + $1)) $((top + $2)) 1 1 txt:- | grep -o '#[0-9A-F]\{6\}'
 }
-result_picture() {
-  import -silent -window "$main" -crop "212x20+490+$((137 + menu_bar))" rgb:- | cksum
-}
+result_picture() { window_picture "$main" $((left + 490)) $((top + 137)) 212 20 rgb:- | cksum; }
 result_picture_is() { [ "$(result_picture)" = "$1" ]; }
 result_picture_is_not() { ! result_picture_is "$1"; }
 
@@ -75,8 +77,47 @@ picture() { # NAME
   import -silent -frame -window "$(active_window)" "$pictures/$1"
 }
 
+# The mouse on a desktop where a click reaches a window before it has become the active one.
+work_with_the_mouse() {
+  local x y width rest help
+  move_window "$main" 0 0
+  press F1
+  wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'F1 opened no help'
+  help=$(active_window)
+  move_window "$help" 750 100
+
+  click_in "$main" $((left + 19)) $((top - 11))
+  press Down Down Return ctrl+a
+  expect_parameters 'after Remember of the window behind the help' "07db3c04$remembered"
+  type_text 61
+  press ctrl+p
+  expect_parameters 'after typing when the menu has closed' "07db3d04$remembered"
+
+  click_in "$help" 100 300
+  wait_for 20 is_active "$help" || wrong 'a click did not activate the help'
+  click_in "$main" $((left + 145)) $((top + 32))
+  type_text 2015
+  press ctrl+p
+  expect_parameters 'after a click into another field than the refused one' "07df3d04$remembered"
+
+  press super+shift+m
+  wait_for 20 is_wide "$main" || wrong 'the desktop could not maximise the window'
+  expect 'colour beside the content' '#CCFFCC' "$(colour_at 900 400)"
+  press Tab
+  type_text 60
+  press super+shift+m ctrl+p
+  expect_parameters 'after typing in the maximised window' "07df3c04$remembered"
+  read -r x y width rest < <(window_place "$main")
+  click_in "$main" $((width - 17)) 17
+}
+is_wide() { [ "$(window_place "$1" | awk '{ print $3 }')" -gt 1000 ]; }
+
 trap close_screen EXIT
-open_screen 1024x640 || wrong 'the virtual screen did not open'
+if [ "$session" = x11 ]; then
+  open_screen 1024x640 || wrong 'the virtual screen did not open'
+else
+  open_wayland 1024x640 || wrong 'the Wayland desktop did not open'
+fi
 folder=$screen_folder
 parameters=$XDG_CONFIG_HOME/Fundlet.Preferences
 year=$(date +%Y)
@@ -85,10 +126,10 @@ tab=$'\t'
 ! ldd "$program" | grep -iE 'network|curl|ssl|http' || wrong 'linked with what talks to a network'
 
 start_program
-expect 'title' Fundlet "$(xdotool getwindowname "$main")"
+expect 'title' Fundlet "$(window_title "$main")"
 expect_parameters 'after the first start' "$(printf '%04x' "$year")"411b3f947ae147ae147b412e848000000000\
 3fa999999999999a40d388000000000040f86a0000000000
-expect 'colour of the window' '#CCFFCC' "$(colour_at 5 $((menu_bar + 210)))"
+expect 'colour of the window' '#CCFFCC' "$(colour_at 5 210)"
 nothing_drawn=$(result_picture)
 
 press Return
@@ -133,7 +174,7 @@ type_text 60
 press ctrl+p
 expect_parameters 'after typing over the refused age' "07db3c04$remembered"
 
-press alt+F4
+if [ "$session" = x11 ]; then press alt+F4; else work_with_the_mouse; fi
 expect_end
 
 start_program
