@@ -1,5 +1,6 @@
 #include "ui/help_window.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -55,6 +56,17 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
     EXPECT_FALSE(GlobalModule::HelpShowing);
     EXPECT_EQ(FocusName(), "COLAField");
   }
+}
+
+// A desktop may let a menu be chosen from before its window has become the active one.
+TEST_F(Help, MenusActOnTheWindowTheyHangFrom) {
+  user::Key(Qt::Key_F1);
+  user::Key(Qt::Key_A, Qt::ControlModifier);
+  Main().Native().activateWindow();
+  user::Settle();
+  Window().EnableMenuItems();
+  Window().Native().findChild<QAction*>("EditCopy")->trigger();
+  EXPECT_EQ(QGuiApplication::clipboard()->text().left(8).toStdString(), "Fundlet\n");
 }
 
 TEST_F(Help, StandsAsMadeUntilItIsResizedAndThenFollowsItsSize) {
