@@ -33,7 +33,7 @@ TEST_F(Validation, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
     SCOPED_TRACE(message);
     user::Key(Qt::Key_R, Qt::ControlModifier);
     Fill(field, typed);
-    ExpectDialog([&](QWidget& dialog) {
+    ExpectDialog([&answer = answer](QWidget& dialog) {
       EXPECT_EQ(static_cast<QMessageBox&>(dialog).icon(), QMessageBox::Warning);
       answer(dialog);
     });

@@ -3,8 +3,6 @@
 namespace fundlet {
 namespace {
 
-namespace fs = std::filesystem;
-
 using AStart = FundletTest;
 
 constexpr const char* kFile = "Fundlet.Preferences";
