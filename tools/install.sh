@@ -29,7 +29,6 @@ tests   desktop-file-utils desktop-file-validate
 tests   appstream         appstreamcli
 tests   man-db            man
 tests   x11-utils         xprop
-tests   strace            strace
 tests   weston            weston
 tests   qt6-wayland       -
 tests   fonts-dejavu-core -
