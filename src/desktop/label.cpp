@@ -6,6 +6,7 @@
 
 #include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
+#include "desktop/screen_reader.h"
 
 namespace fundlet {
 
@@ -32,6 +33,7 @@ std::string Label::Text() const { return FromQt(LabelOf(*this).text()); }
 void Label::SetText(std::string_view text) {
   LabelOf(*this).setText(ToQt(text));
   FitText();
+  if (announced_) ScreenReader::Announce(LabelOf(*this), ToQt(text));
 }
 
 void Label::SetTextAlign(std::int64_t align) {

@@ -15,11 +15,16 @@ class Label : public TextControl {
   void SetTextColor(Colour colour);
   // Makes this the label of a control: its text is the control's name for a screen reader.
   void SetLabelFor(const Control& control);
+  // Has a screen reader speak each text that is set from now on, wherever the focus is.
+  void SetAnnounced() { announced_ = true; }
 
   PropertyTable Properties() const override;
 
  protected:
   std::string WidestText() const override { return Text(); }
+
+ private:
+  bool announced_ = false;
 };
 
 }  // namespace fundlet

@@ -11,6 +11,7 @@
 #include "desktop/held_input.h"
 #include "desktop/program_gate.h"
 #include "desktop/program_style.h"
+#include "desktop/screen_reader.h"
 
 namespace fundlet {
 
@@ -61,6 +62,7 @@ struct Runtime::Parts {
   std::unique_ptr<QApplication> toolkit;
   std::future<void> font_search;  // waits for its end when it goes
   std::unique_ptr<HeldInput> held_input;
+  std::unique_ptr<ScreenReader> screen_reader;
 };
 
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {
@@ -90,6 +92,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setDesktopFileName("fundlet");
   QApplication::setQuitOnLastWindowClosed(false);
   parts_->held_input = std::make_unique<HeldInput>();
+  parts_->screen_reader = std::make_unique<ScreenReader>();
   const auto show_enabling = [] {
     if (Window* front = Window::Front(); front != nullptr) front->EnableMenuItems();
   };

@@ -118,6 +118,7 @@ void aFundletWindow::_CreateControls0() {
   for (const main_layout::FieldRow& row : main_layout::Fields()) {
     ControlOf<Label>(row.label).SetLabelFor(_ControlByName(row.field));
   }
+  AnnualDrawField().SetAnnounced();
 }
 
 void aFundletWindow::AddMenuHandlers() {
