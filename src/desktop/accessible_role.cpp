@@ -1,8 +1,11 @@
 #include "desktop/accessible_role.h"
 
 #include <QAccessibleWidget>
+#include <QLineEdit>
 #include <QVariant>
 #include <QWidget>
+
+#include "desktop/accessible_field.h"
 
 namespace fundlet {
 
@@ -11,6 +14,7 @@ namespace {
 constexpr const char* kRoleProperty = "fundletAccessibleRole";
 
 QAccessibleInterface* InterfaceOf(const QString& /*class_name*/, QObject* object) {
+  if (auto* field = qobject_cast<QLineEdit*>(object)) return new AccessibleField(*field);
   const QVariant role = object->property(kRoleProperty);
   auto* widget = qobject_cast<QWidget*>(object);
   if (widget == nullptr || !role.isValid()) return nullptr;
@@ -19,8 +23,9 @@ QAccessibleInterface* InterfaceOf(const QString& /*class_name*/, QObject* object
 
 }  // namespace
 
+void InstallAccessibleInterfaces() { QAccessible::installFactory(&InterfaceOf); }
+
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role) {
-  QAccessible::installFactory(&InterfaceOf);
   widget.setProperty(kRoleProperty, static_cast<int>(role));
 }
 

@@ -6,6 +6,9 @@ class QWidget;
 
 namespace fundlet {
 
+// From here on the toolkit asks the program what screen readers see of a widget.
+void InstallAccessibleInterfaces();
+
 // Tells screen readers what a widget that the toolkit does not know is for.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 

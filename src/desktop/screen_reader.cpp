@@ -13,10 +13,17 @@ namespace {
 
 ScreenReader* instance = nullptr;
 
+bool ChangesNothing(const QAccessibleEvent& event) {
+  if (event.type() != QAccessible::TextUpdated) return false;
+  const auto& update = static_cast<const QAccessibleTextUpdateEvent&>(event);
+  return update.textRemoved() == update.textInserted();
+}
+
 }  // namespace
 
 ScreenReader::ScreenReader() {
   instance = this;
+  InstallAccessibleInterfaces();
   QAccessible::installUpdateHandler(&ScreenReader::OnEvent);
 }
 
@@ -47,7 +54,7 @@ bool ScreenReader::Keeps(const QAccessibleEvent& event) {
     case QAccessible::TextInserted:
     case QAccessible::TextRemoved:
     case QAccessible::TextUpdated:
-      if (!whole || event.object() != known_.object) return false;
+      if (!whole || event.object() != known_.object) return ChangesNothing(event);
       TellSoon();
       return true;
     case QAccessible::TextCaretMoved:
@@ -110,8 +117,8 @@ void ScreenReader::TellText(const Known& before, const Known& now) {
   const auto limit = std::min(before.text.size(), now.text.size());
   const auto behind_caret = std::min(limit, now.text.size() - std::max(now.caret, 0));
   qsizetype tail = 0;
-  while (tail < behind_caret && before.text.at(before.text.size() - 1 - tail) ==
-                                    now.text.at(now.text.size() - 1 - tail)) {
+  while (tail < behind_caret &&
+         before.text.at(before.text.size() - 1 - tail) == now.text.at(now.text.size() - 1 - tail)) {
     ++tail;
   }
   qsizetype head = 0;

@@ -11,9 +11,9 @@ class QWidget;
 namespace fundlet {
 
 // What a screen reader is told of the program, and when. The handlers of one key may move the focus
-// to and fro and write and select a text several times. The reader is told once they have run: first
-// where the focus is now, then what has changed there, then what is to be announced. What comes to
-// the same again is not told.
+// to and fro and write and select a text several times. The reader is told once they have run:
+// first where the focus is now, then what has changed there, then what is to be announced. What
+// comes to the same again is not told.
 //
 // There is one while the desktop runs.
 class ScreenReader : public QObject {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+class QLineEdit;
+
+namespace fundlet {
+
+// A one-line text as screen readers see it. The toolkit's own says of each character that a run of
+// like characters ends before it, and readers then leave the last one out.
+class AccessibleField : public QAccessibleWidget,
+                        public QAccessibleTextInterface,
+                        public QAccessibleEditableTextInterface {
+ public:
+  explicit AccessibleField(QLineEdit& field);
+
+  void* interface_cast(QAccessible::InterfaceType type) override;
+  QAccessible::State state() const override;
+  QString text(QAccessible::Text kind) const override;
+  void setText(QAccessible::Text kind, const QString& text) override;
+
+  void selection(int index, int* start, int* end) const override;
+  int selectionCount() const override;
+  void addSelection(int start, int end) override;
+  void removeSelection(int index) override;
+  void setSelection(int index, int start, int end) override;
+  int cursorPosition() const override;
+  void setCursorPosition(int position) override;
+  QString text(int start, int end) const override;
+  int characterCount() const override;
+  QRect characterRect(int offset) const override;
+  int offsetAtPoint(const QPoint& point) const override;
+  void scrollToSubstring(int start, int end) override;
+  QString attributes(int offset, int* start, int* end) const override;
+
+  void deleteText(int start, int end) override;
+  void insertText(int offset, const QString& text) override;
+  void replaceText(int start, int end, const QString& text) override;
+
+ private:
+  QLineEdit& Field() const;
+  QString Shown() const;
+};
+
+}  // namespace fundlet
