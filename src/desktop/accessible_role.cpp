@@ -2,10 +2,12 @@
 
 #include <QAccessibleWidget>
 #include <QLineEdit>
+#include <QMenu>
 #include <QVariant>
 #include <QWidget>
 
 #include "desktop/accessible_field.h"
+#include "desktop/accessible_menu.h"
 
 namespace fundlet {
 
@@ -15,6 +17,7 @@ constexpr const char* kRoleProperty = "fundletAccessibleRole";
 
 QAccessibleInterface* InterfaceOf(const QString& /*class_name*/, QObject* object) {
   if (auto* field = qobject_cast<QLineEdit*>(object)) return new AccessibleField(*field);
+  if (auto* menu = qobject_cast<QMenu*>(object)) return new AccessibleMenu(*menu);
   const QVariant role = object->property(kRoleProperty);
   auto* widget = qobject_cast<QWidget*>(object);
   if (widget == nullptr || !role.isValid()) return nullptr;

@@ -90,6 +90,12 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
   QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* data) const {
+  if (hint == SH_Menu_AllowActiveAndDisabled) return 1;
+  return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
                                  const QWidget* widget) const {
   if (picture == SP_ToolBarHorizontalExtensionButton) return QIcon(new ArrowIcon);
