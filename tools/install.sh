@@ -21,6 +21,8 @@ tests   locales           -
 tests   dbus              dbus-run-session
 tests   at-spi2-core      -
 tests   python3-pyatspi   -
+tests   orca              orca
+tests   speech-dispatcher speech-dispatcher
 tests   build-essential   -
 tests   debhelper         dh
 tests   lintian           lintian

@@ -31,6 +31,7 @@ class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInte
 
   QString text(QAccessible::Text kind) const override {
     if (kind == QAccessible::Name) return action_->text().replace("&&", "&");
+    if (kind == QAccessible::Description) return MenuName();
     return kind == QAccessible::Accelerator ? Shortcut() : QString();
   }
   void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
@@ -69,6 +70,11 @@ class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInte
   }
 
  private:
+  // A menu opens at its first item, and readers pass over what has had the focus on the way there.
+  QString MenuName() const {
+    if (menu_->actions().constFirst() != action_) return {};
+    return menu_->title().remove('&') + " menu";
+  }
   QString Shortcut() const { return action_->shortcut().toString(QKeySequence::NativeText); }
 
   QPointer<QMenu> menu_;

@@ -96,6 +96,15 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  const bool reached = option->state.testFlag(State_Selected);
+  if (element != CE_MenuItem || !reached || option->state.testFlag(State_Enabled)) return;
+  painter->setPen(option->palette.color(QPalette::Highlight));
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
 QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
                                  const QWidget* widget) const {
   if (picture == SP_ToolBarHorizontalExtensionButton) return QIcon(new ArrowIcon);

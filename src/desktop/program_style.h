@@ -26,9 +26,12 @@ class ProgramStyle : public QProxyStyle {
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
 
-  // The keys reach dimmed items of a menu too, so that a screen reader tells of them.
+  // The keys reach dimmed items of a menu too, so that a screen reader tells of them. A frame shows
+  // where they are.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
 
   // The toolkit's picture for a menu bar without room is a file, and reading any such file loads
   // its plug-ins for pictures, which the opening would wait for.
