@@ -18,10 +18,16 @@ for size in 16 32 64 128 256; do
   [ "$(identify -format %wx%h "$share/icons/hicolor/${size}x$size/apps/fundlet.png")" = \
     "${size}x$size" ] || wrong "the icon of $size by $size is not there"
 done
-appstreamcli validate --no-net --override=url-homepage-missing=info "$share"/metainfo/*.xml
+# There is no home page to name, which newer releases of AppStream remark on.
+validate_metainfo() {
+  local remarks
+  remarks=$(appstreamcli validate --no-net --no-color "$1" 2>&1) ||
+    [ "$(sed -n 's/^[EW]:.* //p' <<<"$remarks")" = url-homepage-missing ] || wrong "$remarks"
+}
+validate_metainfo "$share"/metainfo/*.xml
 cmake -S "$source" -B "$folder/build" -G Ninja -DBUILD_TESTING=OFF -DFUNDLET_BENCH=OFF \
   -DFUNDLET_SCREENSHOT_URL=https://example.org/doc/window.png >/dev/null
-appstreamcli validate --no-net --override=url-homepage-missing=info "$folder"/build/packaging/*.metainfo.xml
+validate_metainfo "$folder"/build/packaging/*.metainfo.xml
 grep -q '<image>https://example.org/' "$folder"/build/packaging/*.metainfo.xml ||
   wrong 'the screenshot is not in the metainfo'
 
