@@ -43,6 +43,15 @@ lint    clang-format      clang-format
 lint    clang-tidy        clang-tidy
 lint    cppcheck          cppcheck
 coverage gcovr             gcovr
+elsewhere googletest       -
+elsewhere clang            clang++
+elsewhere libc++-dev       -
+elsewhere libc++abi-dev    -
+elsewhere qemu-user        qemu-s390x
+elsewhere g++-aarch64-linux-gnu aarch64-linux-gnu-g++
+elsewhere g++-s390x-linux-gnu s390x-linux-gnu-g++
+elsewhere g++-mingw-w64-x86-64-posix x86_64-w64-mingw32-g++-posix
+elsewhere wine             wine
 bench   libbenchmark-dev  -
 bench   python3           python3
 TABLE
