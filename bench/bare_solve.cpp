@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "services/numbers.h"
+
 namespace fundlet::bench {
 
 namespace {
@@ -36,7 +38,7 @@ void BareSolve::Run(const Plan& plan, int most_levels) {
   for (levels = 1; levels <= most_levels; ++levels) {
     for (std::size_t year = 1; year <= years; ++year) {
       double b = balance[year - 1];
-      const double growth = std::pow(1.0 + plan.COLA, static_cast<double>(year - 1));
+      const double growth = Pow(1.0 + plan.COLA, static_cast<double>(year - 1));
       const double monthly_social = (growth * plan.SocialSecurity) / 12.0;
       const double monthly_draw = (growth * draw) / 12.0;
       double total = 0.0;

@@ -42,8 +42,8 @@ std::uint64_t Checksum(const Plan& plan) {
 }
 
 void Print(int number, const Plan& plan) {
-  std::printf("%d: %d years, COLA %a, APR %a, draw %016" PRIx64 ", arrays %016" PRIx64 "\n", number,
-              static_cast<int>(plan.YearsLeft), plan.COLA, plan.FundletAPR,
+  std::printf("%d: %d years, COLA %.17g, APR %.17g, draw %016" PRIx64 ", arrays %016" PRIx64 "\n",
+              number, static_cast<int>(plan.YearsLeft), plan.COLA, plan.FundletAPR,
               std::bit_cast<std::uint64_t>(plan.AnnualDraw), Checksum(plan));
 }
 
