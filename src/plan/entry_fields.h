@@ -24,12 +24,15 @@ inline constexpr std::string_view kDraw = "#,###,###,##0";
 // The parameter behind a field: a whole number, a rate or an amount of money. One of the three
 // members is set.
 struct Parameter {
-  std::int64_t Plan::*whole = nullptr;
-  double Plan::*rate = nullptr;
-  double Plan::*money = nullptr;
+  using Whole = std::int64_t Plan::*;
+  using Amount = double Plan::*;
+
+  Whole whole = nullptr;
+  Amount rate = nullptr;
+  Amount money = nullptr;
   std::string_view money_mask = {};
 
-  double Plan::*Real() const { return rate != nullptr ? rate : money; }
+  Amount Real() const { return rate != nullptr ? rate : money; }
 };
 
 const Parameter& ParameterOf(FocusCode field);  // of a field, not of None
