@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPalette>
@@ -159,6 +160,10 @@ void NativeWindow::ShowMenus() {
   if (!menu_bar_visible_) return;
   menus_ = std::make_unique<MenuView>(window_, window_.MenuBar(), *menuBar());
   FitToContent();
+}
+
+void NativeWindow::ShowMenuAt(const QString& name, QPoint place) {
+  if (auto* menu = findChild<QMenu*>(name)) menu->popup(place);
 }
 
 void NativeWindow::ShowFirst() {

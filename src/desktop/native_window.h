@@ -42,6 +42,8 @@ class NativeWindow : public QMainWindow {
 
   // Makes the menus; to be called once the window's set of menus is settled.
   void ShowMenus();
+  // Shows the menu of that name as a context menu, where the window has it.
+  void ShowMenuAt(const QString& name, QPoint place);
   // Shows the window for the first time.
   void ShowFirst();
   // Runs the enabling pass when the keys may be the shortcut of an item.

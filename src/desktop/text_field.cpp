@@ -52,6 +52,10 @@ class FieldWidget : public FocusReporting<QLineEdit> {
     if (!brought_by_click_) FocusReporting::mouseReleaseEvent(event);
     brought_by_click_ = false;
   }
+  // The toolkit's own menu asks the clipboard, whose holder may not answer.
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    static_cast<NativeWindow*>(window())->ShowMenuAt("EditMenu", event->globalPos());
+  }
   void keyPressEvent(QKeyEvent* event) override {
     if (ProgramUses(*event) || static_cast<NativeWindow*>(window())->HandleKey(*event)) {
       event->accept();
