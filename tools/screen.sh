@@ -53,8 +53,8 @@ open_wayland() {
   open_screen "$1" || return 1
   printf '%s\n' '[shell]' panel-position=none close-animation=none startup-animation=none \
     '[input-method]' path= >"$screen_folder/weston.ini"
-  weston --backend=x11-backend.so --use-pixman --fullscreen --socket=wayland-test --idle-time=0 \
-    --debug --config="$screen_folder/weston.ini" --log="$screen_folder/weston.log" >/dev/null 2>&1 &
+  weston --backend=x11-backend.so --use-pixman --fullscreen --width="${1%x*}" --height="${1#*x}" \
+    --socket=wayland-test --idle-time=0 --debug --config="$screen_folder/weston.ini" --log="$screen_folder/weston.log" >/dev/null 2>&1 &
   screen_processes+=($!)
   export WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland
   wait_for 20 weston-debug scene-graph || return 1
