@@ -110,8 +110,8 @@ class FrameWidget : public QWidget {
 
   void mouseMoveEvent(QMouseEvent* event) override {
     const Qt::Edges edges = EdgesAt(event->position());
-    const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
-    const bool along = edges & (Qt::TopEdge | Qt::BottomEdge);
+    const bool across = edges.testAnyFlags(Qt::LeftEdge | Qt::RightEdge);
+    const bool along = edges.testAnyFlags(Qt::TopEdge | Qt::BottomEdge);
     const bool falling =
         edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
     if (across && along) {
