@@ -11,6 +11,25 @@
 
 namespace fundlet {
 
+namespace {
+
+// The toolkit wraps no plain text, and a rich one anyhow.
+QString Wrapped(const QString& text) {
+  constexpr qsizetype kLineLength = 80;
+  QString wrapped = text;
+  for (qsizetype line = 0; wrapped.size() - line > kLineLength;) {
+    const qsizetype line_end = wrapped.indexOf('\n', line);
+    const bool fits = line_end >= 0 && line_end - line <= kLineLength;
+    const qsizetype blank = wrapped.lastIndexOf(' ', line + kLineLength);
+    if (!fits && blank <= line) break;
+    if (!fits) wrapped[blank] = '\n';
+    line = (fits ? line_end : blank) + 1;
+  }
+  return wrapped;
+}
+
+}  // namespace
+
 Control::Control(Window& window, QWidget* native) : window_(window), native_(native) {
   native_->setParent(&window.Native().Content());
 }
@@ -38,9 +57,7 @@ void Control::SetEnabled(bool enabled) { native_->setEnabled(enabled); }
 void Control::SetHelpTag(std::string_view text) {
   const QString plain = ToQt(text).replace('\r', '\n');
   native_->setAccessibleDescription(plain);
-  // Only a rich text is wrapped where it is too long for one line.
-  native_->setToolTip(
-      plain.isEmpty() ? QString() : "<qt>" + plain.toHtmlEscaped().replace('\n', "<br>") + "</qt>");
+  native_->setToolTip(Wrapped(plain));
 }
 
 void Control::Refresh(bool at_once) {

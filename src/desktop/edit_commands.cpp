@@ -7,7 +7,7 @@
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
-#include "desktop/control.h"
+#include "desktop/text_field.h"
 
 namespace fundlet {
 
@@ -32,7 +32,7 @@ constexpr Command kCommands[] = {
     {"EditCopy", HasCopyable, [](QLineEdit& field) { field.copy(); }},
     // Whether there is something to paste is not asked: the program that holds it may not answer.
     {"EditPaste", [](const QLineEdit& field) { return !field.isReadOnly(); },
-     [](QLineEdit& field) { field.paste(); }},
+     nullptr},  // the field's own
     {"EditClear",
      [](const QLineEdit& field) { return !field.isReadOnly() && field.hasSelectedText(); },
      [](QLineEdit& field) { field.del(); }},
@@ -65,7 +65,10 @@ bool CanEdit(std::string_view name, const Control* control) {
 }
 
 void Edit(std::string_view name, const Control* control) {
-  if (QLineEdit* field = FieldIn(control)) FindCommand(name)->act(*field);
+  if (const auto* field = dynamic_cast<const TextField*>(control)) {
+    if (name == "EditPaste") return field->Paste();
+    FindCommand(name)->act(*FieldIn(field));
+  }
   if (QPlainTextEdit* area = AreaIn(name, control)) area->copy();
 }
 

@@ -1,14 +1,13 @@
 #include "desktop/text_field.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionFrame>
 
+#include "desktop/entry_widget.h"
 #include "desktop/focus_reporting.h"
 #include "desktop/native_window.h"
 #include "desktop/qt_colour.h"
@@ -19,9 +18,7 @@ namespace fundlet {
 
 namespace {
 
-constexpr int kNoLimit = 32767;
-
-class FieldWidget : public FocusReporting<QLineEdit> {
+class FieldWidget : public FocusReporting<EntryWidget> {
  public:
   FieldWidget(Window& window, TextField& field) : FocusReporting(window, field), field_(field) {}
 
@@ -39,21 +36,20 @@ class FieldWidget : public FocusReporting<QLineEdit> {
  protected:
   void focusInEvent(QFocusEvent* event) override {
     // The click that brings the focus selects the whole text, and must not undo that.
-    brought_by_click_ = event->reason() == Qt::MouseFocusReason;
+    press_selected_all_ = event->reason() == Qt::MouseFocusReason;
     FocusReporting::focusInEvent(event);
   }
-  void mousePressEvent(QMouseEvent* event) override {
-    if (!brought_by_click_) FocusReporting::mousePressEvent(event);
-  }
-  void mouseMoveEvent(QMouseEvent* event) override {
-    if (!brought_by_click_) FocusReporting::mouseMoveEvent(event);
-  }
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    if (!brought_by_click_) FocusReporting::mouseReleaseEvent(event);
-    brought_by_click_ = false;
+  void AboutToReplace() override { field_.SetFocus(); }
+  // While the window is not the active one, its activation is still to come, and would show the
+  // plan again: so the text is read into it before.
+  void Replaced() override {
+    if (isActiveWindow()) return;
+    Owner().FocusWent(field_);
+    activateWindow();
   }
   // The toolkit's own menu asks the clipboard, whose holder may not answer.
   void contextMenuEvent(QContextMenuEvent* event) override {
+    press_selected_all_ = false;  // the release goes to the menu
     static_cast<NativeWindow*>(window())->ShowMenuAt("EditMenu", event->globalPos());
   }
   void keyPressEvent(QKeyEvent* event) override {
@@ -76,7 +72,6 @@ class FieldWidget : public FocusReporting<QLineEdit> {
   }
 
   TextField& field_;
-  bool brought_by_click_ = false;
 };
 
 FieldWidget& FieldOf(const Control& control) {
@@ -94,36 +89,29 @@ Qt::Alignment FieldAlignment(std::int64_t alignment) {
 
 TextField::TextField(Window& window) : TextControl(window, new FieldWidget(window, *this)) {
   FieldOf(*this).setFocusPolicy(Qt::StrongFocus);
-  // A text dropped on a field would stand there without the focus, and be lost at the next rewrite.
-  FieldOf(*this).setAcceptDrops(false);
-  QObject::connect(
-      &FieldOf(*this), &QLineEdit::textEdited, &FieldOf(*this),
-      [this](const QString& text) { UpdateTypingLimit(static_cast<int>(text.size())); });
+  FieldOf(*this).Judge = [this](const QString& outcome) -> std::optional<QString> {
+    if (!Pasting) return outcome;
+    const std::optional<std::string> entry = Pasting(FromQt(outcome), FieldOf(*this).Limit());
+    return entry ? std::optional(ToQt(*entry)) : std::nullopt;
+  };
 }
 
 std::string TextField::Text() const { return FromQt(FieldOf(*this).text()); }
 
 void TextField::SetText(std::string_view text) {
-  const QString shown = ToQt(text);
-  UpdateTypingLimit(static_cast<int>(shown.size()));
-  FieldOf(*this).setText(shown);
+  const int limit = FieldOf(*this).Limit();
+  FieldOf(*this).Write(ToQt(text));
   waiting_selection_.reset();
-  const bool within_limit = limit_ == 0 || shown.size() <= limit_;
-  if (!within_limit || text.size() <= longest_text_.size()) return;
-  longest_text_ = text;
-  FitText();
+  const bool beyond_limit = limit > 0 && Len(text) > static_cast<std::size_t>(limit);
+  const bool widest = !beyond_limit && text.size() > longest_text_.size();
+  if (widest) longest_text_ = text;
+  if (std::exchange(beyond_limit_, beyond_limit) || beyond_limit || widest) FitText();
 }
 
-// The toolkit cuts any text to its limit, also one that the program writes. So its limit is raised
-// for such a text, and comes down with it as the user shortens it.
-void TextField::UpdateTypingLimit(int present_length) {
-  const int most = limit_ > 0 ? std::max(limit_, present_length) : kNoLimit;
-  QLineEdit& field = FieldOf(*this);
-  if (field.maxLength() == most) return;
-  const int caret = field.cursorPosition();
-  field.setMaxLength(most);
-  field.setCursorPosition(caret);
-}
+// A text beyond the limit is narrowed too, so that no part of the number is out of sight.
+std::string TextField::WidestText() const { return beyond_limit_ ? Text() : longest_text_; }
+
+void TextField::Paste() const { FieldOf(*this).PasteFrom(QClipboard::Clipboard); }
 
 bool TextField::HasFocus() const { return OwnerWindow().Focused() == this; }
 
@@ -158,8 +146,7 @@ std::int64_t TextField::SelLength() const {
 }
 
 void TextField::SetLimitText(std::int64_t limit) {
-  limit_ = static_cast<int>(limit);
-  UpdateTypingLimit(static_cast<int>(FieldOf(*this).text().size()));
+  FieldOf(*this).SetLimit(static_cast<int>(limit));
 }
 
 void TextField::SetAlignment(std::int64_t alignment) {
@@ -185,6 +172,7 @@ void TextField::FireGotFocus() {
 
 void TextField::FireLostFocus() {
   if (LostFocus) LostFocus(*this);
+  FieldOf(*this).setCursorPosition(0);
 }
 
 PropertyTable TextField::Properties() const {

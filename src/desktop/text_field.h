@@ -22,7 +22,7 @@ class TextField : public TextControl {
   void SetSelLength(std::int64_t length);  // selects from SelStart
   std::int64_t SelStart() const;
   std::int64_t SelLength() const;
-  // The largest number of characters that typing and pasting can bring the text to; 0 for none.
+  // The largest number of characters that what the user enters can bring the text to; 0 for none.
   void SetLimitText(std::int64_t limit);
   void SetAlignment(std::int64_t alignment);  // 0 and 1 left, 2 centre, 3 right
   void SetReadOnly(bool read_only);
@@ -31,6 +31,8 @@ class TextField : public TextControl {
   void SetBackColor(Colour colour);
   void SetTextColor(Colour colour);
   void SetCueText(std::string_view text);
+  // Enters what the clipboard holds, as the user does.
+  void Paste() const;
 
   // The focus has come to the field, or gone from it.
   std::function<void(TextField&)> GotFocus;
@@ -39,6 +41,10 @@ class TextField : public TextControl {
   // key up.
   std::function<bool(TextField&, const std::string& key)> KeyDown;
 
+  // A text is put into the field from elsewhere. Given what would then stand there, and the limit;
+  // gives what shall stand there, or nothing to refuse it.
+  std::function<std::optional<std::string>(const std::string& text, std::size_t limit)> Pasting;
+
   void FireGotFocus() override;
   void FireLostFocus() override;
   bool LosesFocusWithWindow() const override { return true; }
@@ -46,12 +52,10 @@ class TextField : public TextControl {
   PropertyTable Properties() const override;
 
  protected:
-  std::string WidestText() const override { return longest_text_; }
+  std::string WidestText() const override;
   int TextRoom() const override;
 
  private:
-  void UpdateTypingLimit(int present_length);
-
   // A selection made while the field did not have the focus: it is seen when the focus comes.
   struct Selection {
     std::int64_t start;
@@ -60,9 +64,9 @@ class TextField : public TextControl {
   bool HasFocus() const;
   void Select(Selection selection);
 
-  int limit_ = 0;
   std::optional<Selection> waiting_selection_;
-  std::string longest_text_;  // of those within the limit that the program has written
+  bool beyond_limit_ = false;  // what the program has written last
+  std::string longest_text_;   // of those within the limit that the program has written
 };
 
 }  // namespace fundlet

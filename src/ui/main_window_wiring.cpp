@@ -1,6 +1,7 @@
 #include <functional>
 #include <memory>
 
+#include "plan/entry_fields.h"
 #include "ui/default_menu.h"
 #include "ui/main_layout.h"
 #include "ui/main_window.h"
@@ -115,7 +116,9 @@ void aFundletWindow::_CreateControls0() {
         EncodePropertySet(control.Properties(), main_layout::ControlProperties(row)));
     BindHandlers(*this, name);
   }
-  for (const main_layout::FieldRow& row : main_layout::Fields()) {
+  for (const FocusCode code : kFocusCodes) {
+    const main_layout::FieldRow& row = main_layout::Field(code);
+    ControlOf<TextField>(row.field).Pasting = std::bind_front(&PastedEntry, code);
     ControlOf<Label>(row.label).SetLabelFor(_ControlByName(row.field));
   }
   AnnualDrawField().SetAnnounced();
