@@ -57,6 +57,12 @@ bool IsKey(const QEvent& event) {
          event.type() == QEvent::ShortcutOverride;
 }
 
+bool IsHeldShortcut(const QEvent& event) {
+  if (!IsKey(event)) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  return key.isAutoRepeat() && key.modifiers().testFlag(Qt::ControlModifier);
+}
+
 bool IsCancelGesture(const QEvent& event) {
   if (!IsKey(event)) return false;
   const auto& key = static_cast<const QKeyEvent&>(event);
@@ -112,9 +118,34 @@ void HeldInput::StopAwaiting() {
   ScheduleReplay();
 }
 
+// Where the halves of a repetition reach the toolkit apart, it takes them for a release and a fresh
+// press. Their times tell: no hand lets go and presses again within one millisecond.
+bool HeldInput::IsUntoldRepeat(QObject* object, const QEvent& event) {
+  if (!IsKey(event) || !object->isWindowType()) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  if (key.nativeScanCode() == 0) return false;
+  const std::pair stroke(key.nativeScanCode(), key.timestamp());
+  if (event.type() == QEvent::KeyRelease) last_release_ = stroke;
+  return event.type() != QEvent::KeyRelease && !key.isAutoRepeat() && stroke == last_release_;
+}
+
+// A repetition that the toolkit has not told as one: told now.
+void HeldInput::TellRepeat(QObject* object, QEvent& event) {
+  event.accept();
+  if (event.type() != QEvent::KeyPress) return;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  QKeyEvent repeat(key.type(), key.key(), key.modifiers(), key.nativeScanCode(),
+                   key.nativeVirtualKey(), key.nativeModifiers(), key.text(), true);
+  QCoreApplication::sendEvent(object, &repeat);
+}
+
 bool HeldInput::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) StopAwaiting();
   if (!IsUserInput(*event)) return false;
+  if (IsUntoldRepeat(object, *event)) {
+    TellRepeat(object, *event);
+    return true;
+  }
   if (pumping_ && IsCancelGesture(*event)) {
     if (event->type() == QEvent::KeyPress) SetUserCancelled(true);
     event->accept();
@@ -144,8 +175,8 @@ bool HeldInput::Hold(QObject* object, QEvent* event) {
   } else {
     event->accept();
   }
-  // A shortcut is looked for when its key is delivered.
-  if (event->type() != QEvent::ShortcutOverride) {
+  // A shortcut is looked for when its key is delivered. One that is held down acts once.
+  if (event->type() != QEvent::ShortcutOverride && !IsHeldShortcut(*event)) {
     held_.push_back({object, std::unique_ptr<QEvent>(event->clone())});
   }
   return true;

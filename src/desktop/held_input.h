@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <memory>
+#include <utility>
 
 #include <QEvent>
 #include <QObject>
@@ -38,6 +39,8 @@ class HeldInput : public QObject {
   };
 
   static int Pump();
+  bool IsUntoldRepeat(QObject* object, const QEvent& event);
+  static void TellRepeat(QObject* object, QEvent& event);
   bool MustHold() const;
   bool ComesBeforeActivation(QObject* object, const QEvent& event) const;
   void StopAwaiting();
@@ -48,6 +51,7 @@ class HeldInput : public QObject {
   std::deque<Held> held_;
   QPointer<QWindow> awaited_;  // the window that a held click activates
   QTimer patience_;
+  std::pair<quint32, quint64> last_release_;  // the key, and when
   bool pumping_ = false;
   bool replaying_ = false;
   bool replay_scheduled_ = false;

@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
+#include <QKeyEvent>
+#include <QMessageBox>
 #include <QWindow>
 
 #include "desktop/native_window.h"
@@ -65,9 +67,25 @@ bool IsBeneath(QObject* object) {
   });
 }
 
+// Whether a key that is held down would answer the dialog in front, which nobody can have read yet.
+// A message has no other use for keys; in the save dialog they may be typed.
+bool IsHeldAnswer(QObject* object, const QEvent& event) {
+  if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  const QDialog* dialog = OpenDialogs().back().dialog;
+  const auto* widget = qobject_cast<QWidget*>(object);
+  const bool to_dialog =
+      widget != nullptr ? widget->window() == dialog : object == dialog->windowHandle();
+  const bool answers = qobject_cast<const QMessageBox*>(dialog) != nullptr ||
+                       key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
+                       key.key() == Qt::Key_Escape || key.modifiers().testFlag(Qt::AltModifier);
+  return key.isAutoRepeat() && to_dialog && answers;
+}
+
 }  // namespace
 
 bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
+  if (IsOpen() && IsHeldAnswer(object, event)) return true;
   if (!IsOpen() || event.type() == QEvent::Close || !IsBeneath(object)) return false;
   if (OwnFrame::Takes(object, event)) return false;
   if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::KeyPress) {

@@ -19,6 +19,7 @@ class ModalDialog {
 
   static bool IsOpen();
   // Whether input to the object has to wait for a dialog; then the dialog is brought to the front.
+  // Also whether it is a key, held down since before, that would answer the dialog unread.
   static bool Blocks(QObject* object, const QEvent& event);
   // Answers the open dialogs of a window as their close boxes do; null stands for those of all.
   static void Dismiss(const Window* owner);

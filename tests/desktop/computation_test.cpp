@@ -161,6 +161,17 @@ TEST_F(HeldInput, ComesAfterTheComputationInItsOrderAndNeverInsideIt) {
   EXPECT_EQ(bench_->log, (Log{"begin", "end", "begin", "end", "shortcut", "other"}));
 }
 
+TEST_F(HeldInput, AShortcutThatIsHeldDownActsOnce) {
+  Compute([this] {
+    for (const bool repeated : {false, true, true}) {
+      QKeyEvent press(QEvent::KeyPress, Qt::Key_P, Qt::ControlModifier, "\x10", repeated);
+      QCoreApplication::sendEvent(Native(), &press);
+    }
+  });
+  user::Settle();
+  EXPECT_EQ(bench_->log, (Log{"begin", "end", "shortcut"}));
+}
+
 TEST_F(HeldInput, OnlyTheCancellingKeysCancelAndOnlyTheComputationThatRuns) {
   const struct {
     Qt::Key key;
