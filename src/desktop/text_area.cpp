@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTextCursor>
 
 #include "desktop/focus_reporting.h"
@@ -19,13 +20,39 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
  public:
   using FocusReporting::FocusReporting;
 
+  // The caret or the selection is the program's matter, what part of the page is seen the reader's.
+  void PutCursor(const QTextCursor& cursor) {
+    const int first_line = verticalScrollBar()->value();
+    setTextCursor(cursor);
+    verticalScrollBar()->setValue(first_line);
+  }
+
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    const bool read_only_key = isReadOnly() && NativeKey(*event);
-    if (!read_only_key) FocusReporting::keyPressEvent(event);
+    if (isReadOnly() && NativeKey(*event)) return;
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (MovesCaret(event->key()) && modifiers == Qt::NoModifier) BringCaretIntoView();
+    const int lines = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
+    if (isReadOnly() && lines != 0 && modifiers == Qt::NoModifier) {
+      GoOn(lines);
+    } else {
+      FocusReporting::keyPressEvent(event);
+    }
   }
 
  private:
+  static bool MovesCaret(int key) { return (key >= Qt::Key_Home && key <= Qt::Key_PageDown); }
+  // A page that has been scrolled is read on from where it is seen, and not from where the caret
+  // is.
+  void BringCaretIntoView() {
+    if (!viewport()->rect().intersects(cursorRect())) PutCursor(cursorForPosition(QPoint(0, 0)));
+  }
+  // The page moves with the caret, so that each press is seen, and a screen reader reads the line.
+  void GoOn(int lines) {
+    const int first_line = verticalScrollBar()->value() + lines;
+    moveCursor(lines > 0 ? QTextCursor::Down : QTextCursor::Up);
+    verticalScrollBar()->setValue(first_line);
+  }
   // A text that cannot be edited has no use for Return.
   bool NativeKey(QKeyEvent& event) const {
     const bool used = static_cast<NativeWindow*>(window())->HandleKey(event);
@@ -53,20 +80,20 @@ void TextArea::SetText(std::string_view text) {
 }
 
 void TextArea::SetSelStart(std::int64_t start) {
-  QPlainTextEdit& area = AreaOf(*this);
+  AreaWidget& area = AreaOf(*this);
   QTextCursor cursor = area.textCursor();
   cursor.setPosition(UnitsOf(area.toPlainText(), start));
-  area.setTextCursor(cursor);
+  area.PutCursor(cursor);
 }
 
 void TextArea::SetSelLength(std::int64_t length) {
-  QPlainTextEdit& area = AreaOf(*this);
+  AreaWidget& area = AreaOf(*this);
   const QString text = area.toPlainText();
   QTextCursor cursor = area.textCursor();
   const std::int64_t start = SelStart();
   cursor.setPosition(UnitsOf(text, start));
   cursor.setPosition(UnitsOf(text, start + length), QTextCursor::KeepAnchor);
-  area.setTextCursor(cursor);
+  area.PutCursor(cursor);
 }
 
 std::int64_t TextArea::SelStart() const {

@@ -14,6 +14,7 @@ class TextArea : public TextControl {
 
   std::string Text() const;
   void SetText(std::string_view text);
+  // Neither scrolls the page.
   void SetSelStart(std::int64_t start);
   void SetSelLength(std::int64_t length);
   std::int64_t SelStart() const;

@@ -7,6 +7,7 @@
 #include <QPixmapCache>
 
 #include "desktop/edit_commands.h"
+#include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/program_gate.h"
 #include "desktop/qt_text.h"
@@ -86,7 +87,7 @@ void Window::Open() {
 }
 
 void Window::Show() {
-  if (!open_) return;
+  if (!open_ || ProgramGate::Instance().IsShut()) return;
   if (!shown_once_) {
     FirstShow();
     return;
@@ -104,16 +105,27 @@ void Window::FirstShow() {
   shown_once_ = true;
   Control* first = ApplyTabOrder();
   native_->ShowMenus();
-  if (centred_) {
-    const Screen screen(0);
-    SetLeft(screen.AvailableLeft() + (screen.AvailableWidth() - Width()) / 2);
-    SetTop(screen.AvailableTop() + (screen.AvailableHeight() - Height()) / 2);
-  }
+  if (centred_) Centre();
   native_->ShowFirst();
   native_->raise();
   native_->activateWindow();
   if (first != nullptr) first->SetFocus();
   Activated();
+}
+
+// In the middle of the main screen's usable area; where that is too low, the window is made lower.
+void Window::Centre() {
+  constexpr int kTitleBar = 30;  // at least as high as those of the desktops
+  const Screen screen(0);
+  const int menus = native_->height() - Height();
+  const int room =
+      std::max(screen.AvailableHeight() - kTitleBar - menus, native_->Smallest().height());
+  if (Height() > room) {
+    SetHeight(room);
+    ProgramGate::Instance().EnterWithin("", [this] { Event_Resized(); });
+  }
+  SetLeft(screen.AvailableLeft() + (screen.AvailableWidth() - Width()) / 2);
+  SetTop(screen.AvailableTop() + std::max(kTitleBar, (screen.AvailableHeight() - Height()) / 2));
 }
 
 // Tab goes through the controls by rising TabIndex; those that are equal in it keep the order in
@@ -206,6 +218,8 @@ const Control* Window::EditTarget(const std::string& command) const {
 }
 
 void Window::EnableMenuItems() {
+  // While a message is open, the field may still show what the handler that waits has replaced.
+  if (ModalDialog::IsOpen()) return;
   fundlet::MenuBar& menus = MenuBar();
   menus.ForEach([this](MenuItem& item) {
     if (AbleByItself(item)) {

@@ -107,6 +107,7 @@ class Window : public PropertyTarget {
 
  private:
   void FirstShow();
+  void Centre();
   Control* ApplyTabOrder();  // gives the first control of the order, null where there is none
   bool AbleByItself(const MenuItem& item) const;
   const Control* EditTarget(const std::string& command) const;  // null where it can do nothing
