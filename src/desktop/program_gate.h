@@ -31,6 +31,7 @@ class ProgramGate {
   void SetHooks(Hooks hooks) { hooks_ = std::move(hooks); }
   // The program is ending: nothing that waits is run any more.
   void Shut();
+  bool IsShut() const { return shut_; }
   void Reopen();
 
  private:

@@ -9,6 +9,7 @@
 #include <QFontDatabase>
 
 #include "desktop/held_input.h"
+#include "desktop/modal_dialog.h"
 #include "desktop/program_gate.h"
 #include "desktop/program_style.h"
 #include "desktop/screen_reader.h"
@@ -22,6 +23,16 @@ Application* registered_application = nullptr;
 // window may be touched any more.
 auto& implicit_instances = *new std::map<std::string, std::unique_ptr<Window>>;
 std::optional<int> end_status;  // once the end has been asked for
+
+// An end that the desktop asks for, as that of its session, closes an open message like any answer.
+// It has to be the program's end too, also while the start waits for that answer.
+class EndRequests : public QObject {
+ public:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
+    return false;
+  }
+};
 
 }  // namespace
 
@@ -63,6 +74,7 @@ struct Runtime::Parts {
   std::future<void> font_search;  // waits for its end when it goes
   std::unique_ptr<HeldInput> held_input;
   std::unique_ptr<ScreenReader> screen_reader;
+  EndRequests end_requests;
 };
 
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {
@@ -98,6 +110,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   };
   ProgramGate::Instance().SetHooks(
       {App().Report, show_enabling, [this] { parts_->held_input->ScheduleReplay(); }});
+  parts_->toolkit->installEventFilter(&parts_->end_requests);
   ProgramGate::Instance().Enter("Start", late);
 }
 
