@@ -123,7 +123,8 @@ void HeldInput::StopAwaiting() {
 bool HeldInput::IsUntoldRepeat(QObject* object, const QEvent& event) {
   if (!IsKey(event) || !object->isWindowType()) return false;
   const auto& key = static_cast<const QKeyEvent&>(event);
-  if (key.nativeScanCode() == 0) return false;
+  // A screen reader's side hands keys on without their times.
+  if (key.nativeScanCode() == 0 || key.timestamp() == 0) return false;
   const std::pair stroke(key.nativeScanCode(), key.timestamp());
   if (event.type() == QEvent::KeyRelease) last_release_ = stroke;
   return event.type() != QEvent::KeyRelease && !key.isAutoRepeat() && stroke == last_release_;

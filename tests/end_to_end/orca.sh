@@ -26,7 +26,14 @@ has_settled() {
 # typed over.
 after() {
   from=$(wc -l <"$log")
-  case $1 in start) ;; [0-9]) type_text "$1" ;; *) press "$1" ;; esac
+  case $1 in
+    start) ;;
+    [0-9]) type_text "$1" ;;
+    # At a person's pace: each key goes to the reader first, and an Alt that comes back after its
+    # letter closes the menu again.
+    *+*) xdotool keydown "${1%+*}" sleep 0.4 key "${1#*+}" sleep 0.4 keyup "${1%+*}" ;;
+    *) press "$1" ;;
+  esac
   wait_for 30 is_heard "$2" || { echo "After $1, not $2 is heard but: $(heard)"; exit 1; }
   wait_for 2 has_settled
   [[ $1 != [0-9] ]] || return 0
