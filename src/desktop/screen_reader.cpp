@@ -68,8 +68,8 @@ bool ScreenReader::Keeps(const QAccessibleEvent& event) {
 
 void ScreenReader::TellSoon() {
   if (std::exchange(due_, true)) return;
-  QMetaObject::invokeMethod(
-      this, [this] { Tell(); }, Qt::QueuedConnection);
+  const auto tell = [this] { Tell(); };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void ScreenReader::Tell() {

@@ -7,9 +7,9 @@ namespace fundlet {
 
 inline double Abs(double number) { return std::fabs(number); }
 
-// x to the power y; Pow(x, 0) is 1. With x from 1 to 2 and y a whole number from 0 to 63, as they are
-// in every plan that is solved, it is the double nearest to the power, on every machine: C libraries
-// differ in the last bits.
+// x to the power y; Pow(x, 0) is 1. With x from 1 to 2 and y a whole number from 0 to 63, as they
+// are in every plan that is solved, it is the double nearest to the power, on every machine: C
+// libraries differ in the last bits.
 double Pow(double x, double y);
 
 // The nearest whole number; a number just between two goes away from zero.
