@@ -66,8 +66,11 @@ bool CanEdit(std::string_view name, const Control* control) {
 
 void Edit(std::string_view name, const Control* control) {
   if (const auto* field = dynamic_cast<const TextField*>(control)) {
-    if (name == "EditPaste") return field->Paste();
-    FindCommand(name)->act(*FieldIn(field));
+    if (name == "EditPaste") {
+      field->Paste();
+    } else {
+      FindCommand(name)->act(*FieldIn(field));
+    }
   }
   if (QPlainTextEdit* area = AreaIn(name, control)) area->copy();
 }

@@ -74,7 +74,7 @@ struct Runtime::Parts {
   std::future<void> font_search;  // waits for its end when it goes
   std::unique_ptr<HeldInput> held_input;
   std::unique_ptr<ScreenReader> screen_reader;
-  EndRequests end_requests;
+  std::unique_ptr<QObject> end_requests = std::make_unique<EndRequests>();
 };
 
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {
@@ -110,7 +110,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   };
   ProgramGate::Instance().SetHooks(
       {App().Report, show_enabling, [this] { parts_->held_input->ScheduleReplay(); }});
-  parts_->toolkit->installEventFilter(&parts_->end_requests);
+  parts_->toolkit->installEventFilter(parts_->end_requests.get());
   ProgramGate::Instance().Enter("Start", late);
 }
 

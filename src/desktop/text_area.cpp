@@ -32,9 +32,10 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
     if (isReadOnly() && NativeKey(*event)) return;
     const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
     if (MovesCaret(event->key()) && modifiers == Qt::NoModifier) BringCaretIntoView();
-    const int lines = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
-    if (isReadOnly() && lines != 0 && modifiers == Qt::NoModifier) {
-      GoOn(lines);
+    const bool up = event->key() == Qt::Key_Up;
+    const bool by_line = up || event->key() == Qt::Key_Down;
+    if (isReadOnly() && by_line && modifiers == Qt::NoModifier) {
+      GoOn(up ? -1 : 1);
     } else {
       FocusReporting::keyPressEvent(event);
     }

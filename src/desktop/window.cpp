@@ -220,8 +220,7 @@ const Control* Window::EditTarget(const std::string& command) const {
 void Window::EnableMenuItems() {
   // While a message is open, the field may still show what the handler that waits has replaced.
   if (ModalDialog::IsOpen()) return;
-  fundlet::MenuBar& menus = MenuBar();
-  menus.ForEach([this](MenuItem& item) {
+  MenuBar().ForEach([this](MenuItem& item) {
     if (AbleByItself(item)) {
       item.Enable();
     } else {

@@ -55,7 +55,7 @@ fs::path FolderFromEnvironment(const char* variable) {
 #else
   const char* value = std::getenv(variable);
 #endif
-  fs::path folder = value != nullptr ? fs::path(value) : fs::path();
+  const fs::path folder = value != nullptr ? fs::path(value) : fs::path();
   return folder.is_absolute() ? folder : fs::path();
 }
 

@@ -31,23 +31,32 @@ Twofold Times(const Twofold& number, double factor) {
   return {head, rest - (head - product)};
 }
 
+constexpr int kHighestPower = 63;
+
+// The powers of one base, as far as they have been asked for: a solve asks for the same ones again
+// and again.
+struct Powers {
+  double base = 1.0;
+  std::size_t known = 0;
+  std::array<Twofold, kHighestPower + 1> values = {{{1.0, 0.0}}};
+
+  double Of(double x, std::size_t exponent) {
+    if (x != base) {
+      base = x;
+      known = 0;
+    }
+    for (; known < exponent; ++known) values.at(known + 1) = Times(values.at(known), base);
+    return values.at(exponent).head;
+  }
+};
+
+thread_local Powers powers;
+
 }  // namespace
 
 double Pow(double x, double y) {
-  constexpr int kMost = 63;
-  const bool in_range = x >= 1 && x <= 2 && y >= 0 && y <= kMost && y == std::floor(y);
-  if (!in_range) return std::pow(x, y);
-  // A solve asks for the powers of one base again and again.
-  thread_local double base = 1.0;
-  thread_local std::array<Twofold, kMost + 1> powers = {{{1.0, 0.0}}};
-  thread_local std::size_t known = 0;
-  if (x != base) {
-    base = x;
-    known = 0;
-  }
-  const auto wanted = static_cast<std::size_t>(y);
-  for (; known < wanted; ++known) powers.at(known + 1) = Times(powers.at(known), base);
-  return powers.at(wanted).head;
+  const bool kept = x >= 1 && x <= 2 && y >= 0 && y <= kHighestPower && y == std::floor(y);
+  return kept ? powers.Of(x, static_cast<std::size_t>(y)) : std::pow(x, y);
 }
 
 std::int64_t Truncated(double number) {
