@@ -13,7 +13,7 @@ using LongSession = StartedTest;
 #ifdef __SANITIZE_ADDRESS__
 constexpr int kRounds = 20;  // the sanitizer's own keep of memory is not looked at
 #else
-constexpr int kRounds = 1000;
+constexpr int kRounds = 400;
 #endif
 
 // The bytes that the program has asked for and not given back.
@@ -38,7 +38,7 @@ void Use(int rounds) {
 }
 
 TEST_F(LongSession, LeavesMemoryAndOpenFilesAsTheyWere) {
-  Use(kRounds / 3);  // fills what is kept for use again
+  Use(kRounds / 2);  // fills what is kept for use again
   const long memory = MemoryInUse();
   const auto files = OpenFiles();
   Use(kRounds);
