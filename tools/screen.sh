@@ -52,7 +52,7 @@ open_bus() {
 open_wayland() {
   open_screen "$1" || return 1
   printf '%s\n' '[shell]' panel-position=none close-animation=none startup-animation=none \
-    '[input-method]' path= >"$screen_folder/weston.ini"
+    '[input-method]' path= '[keyboard]' repeat-rate=0 >"$screen_folder/weston.ini"
   weston --backend=x11-backend.so --use-pixman --fullscreen --width="${1%x*}" --height="${1#*x}" \
     --socket=wayland-test --idle-time=0 --debug --config="$screen_folder/weston.ini" --log="$screen_folder/weston.log" >/dev/null 2>&1 &
   screen_processes+=($!)

@@ -6,7 +6,7 @@ import time
 import pyatspi
 
 def wait_for(what, found):
-    for _ in range(200):
+    for _ in range(800):
         try:
             value = found()
         except (LookupError, RuntimeError):
@@ -58,7 +58,7 @@ def result():
     return [n.name for n in everything() if n.name.startswith("Initial Year Draw:")]
 
 
-wait_for("the program is not there", lambda: result() == ["Initial Year Draw:  $0"])
+wait_for("the program is not there", lambda: "Initial Year Draw:  $0" in result())
 
 fields = [node for node in everything() if node.getState().contains(pyatspi.STATE_EDITABLE)]
 expect("eight fields with names of their own, descriptions and texts",
@@ -69,7 +69,7 @@ expect("two rules", len([n for n in everything() if n.getRoleName() == "separato
 calculate = find("push button", "Calculate Annual Draw")[0]
 expect("the description of the button", calculate.description.startswith("Click this button"))
 act(calculate)
-wait_for("the result", lambda: result() == ["Initial Year Draw:  $73,325"])
+wait_for("the result", lambda: "Initial Year Draw:  $73,325" in result())
 
 act(find("push button", "Remember Parameters")[0])
 act(find("push button", "Recall Paremeters")[0])
