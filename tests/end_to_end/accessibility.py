@@ -5,8 +5,13 @@ import time
 
 import pyatspi
 
+PATIENCE = 60  # seconds; the machine may have much else to do
+pyatspi.setTimeout(5000, -1)
+
+
 def wait_for(what, found):
-    for _ in range(800):
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
         try:
             value = found()
         except (LookupError, RuntimeError):
@@ -34,6 +39,10 @@ def find(role, name):
     return [node for node in everything() if node.getRoleName() in roles and node.name == name]
 
 
+def the(role, name):
+    return wait_for(f"there is no {role} {name}", lambda: find(role, name))[0]
+
+
 def text_of(node):
     return node.queryText().getText(0, -1)
 
@@ -43,10 +52,12 @@ def act(node, name="Press"):
     names = [actions.getName(i) for i in range(actions.nActions)]
     if name not in names:
         sys.exit(f"accessibility: {node.name} offers {names} and not {name}")
+    pyatspi.setTimeout(200, -1)
     try:
         actions.doAction(names.index(name))
     except RuntimeError:
         pass  # no answer before the dialog that it opens has been closed
+    pyatspi.setTimeout(5000, -1)
 
 
 def expect(what, condition):
@@ -66,33 +77,33 @@ expect("eight fields with names of their own, descriptions and texts",
 expect("two rules", len([n for n in everything() if n.getRoleName() == "separator"
                          and n.parent.getRoleName() == "filler"]) == 2)
 
-calculate = find("push button", "Calculate Annual Draw")[0]
+calculate = the("push button", "Calculate Annual Draw")
 expect("the description of the button", calculate.description.startswith("Click this button"))
 act(calculate)
 wait_for("the result", lambda: "Initial Year Draw:  $73,325" in result())
 
-act(find("push button", "Remember Parameters")[0])
-act(find("push button", "Recall Paremeters")[0])
+act(the("push button", "Remember Parameters"))
+act(the("push button", "Recall Paremeters"))
 
-act(find("menu item", "Fundlet Help…")[0])
-page = wait_for("the help", lambda: find("text", "Fundlet Help"))[0]
+act(the("menu item", "Fundlet Help…"))
+page = the("text", "Fundlet Help")
 expect("the text of the help", text_of(page).startswith("Fundlet\nVersion 5"))
-act(find("push button", "Close")[0])
+act(the("push button", "Close"))
 wait_for("the help is not closed", lambda: not page.getState().contains(pyatspi.STATE_SHOWING))
 for command, label, button in (("About Fundlet…", "Version 5", "OK"),
                                ("Save Schedule", "File name:", "Cancel")):
-    act(find("menu item", command)[0])
-    wait_for(f"the dialog of {command}", lambda: find("label", label))
-    act(wait_for(f"its button {button}", lambda: find("push button", button))[0])
+    act(the("menu item", command))
+    the("label", label)
+    act(the("push button", button))
     wait_for(f"{command} is not closed", lambda: not find("label", label))
 
-find("text", "Age on 1 Jan:")[0].queryEditableText().setTextContents("40")
+the("text", "Age on 1 Jan:").queryEditableText().setTextContents("40")
 act(calculate)
 message = "Age must be at least 52 years old."
 wait_for("the alert cannot be read", lambda: find("label", message) or find("alert", message))
-act(wait_for("the alert has no button", lambda: find("push button", "OK"))[0])
-wait_for("the forced age", lambda: text_of(find("text", "Age on 1 Jan:")[0]) == "52")
+act(the("push button", "OK"))
+wait_for("the forced age", lambda: text_of(the("text", "Age on 1 Jan:")) == "52")
 for command, years in (("2", "28"), ("4", "36"), ("8", "40")):
-    act(find("menu item", f"when 1/{command} survive")[0])
-    wait_for("the menu command", lambda: text_of(find("text", "Life Expectancy:")[0]) == years)
-act(find("menu item", "Quit")[0])
+    act(the("menu item", f"when 1/{command} survive"))
+    wait_for("the menu command", lambda: text_of(the("text", "Life Expectancy:")) == years)
+act(the("menu item", "Quit"))

@@ -17,10 +17,10 @@ trap close_screen EXIT
 open_screen 1024x640
 "$launcher" --launch-immediately 2>/dev/null &
 screen_processes+=($!)
-sleep 1
+wait_for 20 dbus-send --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 "$program" &
 process=$!
 screen_processes+=("$process")
-timeout 120 /usr/bin/python3 "$here/accessibility.py"
+timeout 240 /usr/bin/python3 "$here/accessibility.py"
 wait "$process"
