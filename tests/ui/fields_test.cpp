@@ -56,10 +56,11 @@ TEST_F(Fields, AMenuOrAToolTipIsNoLossOfFocus) {
     user::Key(Qt::Key_A, Qt::ControlModifier);
     open();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    while (QApplication::activePopupWidget() != nullptr) user::Key(Qt::Key_Escape);
-    if (FocusName() == "") user::Key(Qt::Key_Escape);  // the bar keeps the keys at first
+    user::Key(Qt::Key_Escape);
     EXPECT_EQ(Selected("StartFundletField"), "1234.5");
     EXPECT_EQ(ThePlan().StartFundlet, 1000000.0);
+    EXPECT_EQ(FocusName(), "StartFundletField");
+    user::Key(Qt::Key_Alt);
     EXPECT_EQ(FocusName(), "StartFundletField");
   }
   QToolTip::showText({}, "tip");
