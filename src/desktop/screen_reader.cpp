@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QApplication>
 #include <QWidget>
 
 #include "desktop/accessible_role.h"
@@ -45,6 +46,10 @@ bool ScreenReader::Keeps(const QAccessibleEvent& event) {
       if (!whole) known_ = {};
       if (whole) TellSoon();
       return whole;
+    case QAccessible::PopupMenuEnd:
+      // The toolkit does not tell who has the keys again.
+      QMetaObject::invokeMethod(this, &ScreenReader::MenuHasClosed, Qt::QueuedConnection);
+      return false;
     case QAccessible::StateChanged:
       // A reader waits to be told the focus in a window that has become the active one.
       if (static_cast<const QAccessibleStateChangeEvent&>(event).changedStates().active) {
@@ -70,6 +75,13 @@ void ScreenReader::TellSoon() {
   if (std::exchange(due_, true)) return;
   const auto tell = [this] { Tell(); };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void ScreenReader::MenuHasClosed() {
+  if (QApplication::activePopupWidget() != nullptr || QApplication::focusWidget() == nullptr)
+    return;
+  focused_ = QApplication::focusWidget();
+  TellSoon();
 }
 
 void ScreenReader::Tell() {

@@ -46,6 +46,7 @@ class ScreenReader : public QObject {
   static void Say(QWidget& widget, const QString& text);
 
   bool Keeps(const QAccessibleEvent& event);
+  void MenuHasClosed();
   void TellSoon();
   void Tell();
 
