@@ -1,8 +1,5 @@
-#include <QTest>
 #include <QTimer>
 
-#include "app/my_application.h"
-#include "desktop/native_window.h"
 #include "services/background.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
@@ -46,7 +43,7 @@ class Bench : public Window {
 class BenchTest : public DesktopTest {
  protected:
   void SetUp() override {
-    StartWith(&MyApplication::_EarlyStartup, [this] {
+    StartWith([this] {
       bench_ = static_cast<Bench*>(&ImplicitInstance("Bench", [] {
         auto window = std::make_unique<Bench>();
         window->SetWidth(200);
@@ -97,10 +94,7 @@ using Log = std::vector<std::string>;
 
 TEST_F(Gate, AnExceptionEndsInOneAlertAndTheProgramRunsOn) {
   bench_->ControlOf<PushButton>("Go").SetCaption("Start");
-  const struct {
-    std::function<void()> fault;
-    const char* reason;
-  } cases[] = {
+  const std::pair<std::function<void()>, const char*> cases[] = {
       {[] { throw NilObjectException("It has gone."); }, "It has gone."},
       {[] { throw std::bad_alloc(); },
        "There is not enough memory. Close other programs and try again."},
@@ -173,11 +167,7 @@ TEST_F(HeldInput, AShortcutThatIsHeldDownActsOnce) {
 }
 
 TEST_F(HeldInput, OnlyTheCancellingKeysCancelAndOnlyTheComputationThatRuns) {
-  const struct {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    bool cancels;
-  } cases[] = {
+  const std::tuple<Qt::Key, Qt::KeyboardModifiers, bool> cases[] = {
       {Qt::Key_Escape, Qt::NoModifier, true},     {Qt::Key_Period, Qt::ControlModifier, true},
       {Qt::Key_Escape, Qt::ShiftModifier, false}, {Qt::Key_Period, Qt::NoModifier, false},
       {Qt::Key_C, Qt::ControlModifier, false},    {Qt::Key_Space, Qt::NoModifier, false},

@@ -1,6 +1,4 @@
-#include <QClipboard>
 #include <QFileDialog>
-#include <QTest>
 
 #include "desktop/message_sending.h"
 #include "tests/ui/window_fixture.h"
@@ -11,10 +9,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using Commands = StartedTest;
-using Enabling = StartedTest;
-using AboutPanel = StartedTest;
-using Closing = StartedTest;
-
+using Texts = std::vector<std::string>;
 using Way = std::function<void()>;
 
 std::vector<Way> Ways(const QString& button, const QString& item, Qt::Key key) {
@@ -54,40 +49,27 @@ TEST_F(Commands, ASolvedScheduleIsSavedFromButtonMenuAndKey) {
   }
 }
 
-TEST_F(Commands, TheSaveDialogProposesANameWhereTheLastScheduleWent) {
-  Calculate();
-  const auto proposal_after = [this](const Way& before) {
-    before();
-    std::string proposed;
-    ExpectDialog([&](QWidget& dialog) {
-      proposed = static_cast<QFileDialog&>(dialog).selectedFiles().value(0).toStdString();
-      QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+TEST_F(Commands, TheSaveDialogProposesANameWhereTheLastScheduleWentAndReplacesNothingUnasked) {
+  const auto propose = [this](const char* folder, const Answer& answer) {
+    ExpectDialog([=, this](QWidget& dialog) {
+      EXPECT_EQ(static_cast<QFileDialog&>(dialog).selectedFiles().value(0).toStdString(),
+                folder_.Path() / folder / "Draw Schedule.txt");
+      answer(dialog);
     });
-    user::Key(Qt::Key_S, Qt::ControlModifier);
-    return proposed;
+    user::Shortcut(Qt::Key_S);
   };
   fs::create_directories(folder_.Path() / "Documents");
   fs::create_directories(folder_.Path() / "elsewhere");
-  EXPECT_EQ(proposal_after([] {}), folder_.Path() / "Documents" / "Draw Schedule.txt");
-  EXPECT_EQ(proposal_after([this] {
-              ExpectDialog(BySaving(folder_.Path() / "elsewhere" / "mine"));
-              user::Key(Qt::Key_S, Qt::ControlModifier);
-            }),
-            folder_.Path() / "elsewhere" / "Draw Schedule.txt");
-  EXPECT_FALSE(fs::exists(folder_.Path() / "elsewhere" / "Draw Schedule.txt"));
-}
-
-TEST_F(Commands, AFileStaysWhenTheUserDoesNotHaveItReplaced) {
+  const std::string mine = folder_.Path() / "elsewhere" / "mine";
   Calculate();
-  folder_.Write("old.txt", "old");
-  const std::string path = folder_.Path() / "old.txt";
-  ExpectDialog([&](QWidget& dialog) {
+  propose("Documents", BySaving(mine));
+  folder_.Write("elsewhere/mine", "old");
+  propose("elsewhere", [&](QWidget& dialog) {
     ExpectDialog(ByKey(Qt::Key_Escape));
-    BySaving(path)(dialog);
+    BySaving(mine)(dialog);
     dialog.close();
   });
-  user::Key(Qt::Key_S, Qt::ControlModifier);
-  EXPECT_EQ(folder_.Read("old.txt"), "old");
+  EXPECT_EQ(folder_.Read("elsewhere/mine"), "old");
 }
 
 TEST_F(Commands, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
@@ -95,11 +77,10 @@ TEST_F(Commands, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
   fs::remove(folder_.Path() / "Fundlet.Preferences");
   fs::create_directory(folder_.Path() / "Fundlet.Preferences");
   ExpectDialog(ByKey(Qt::Key_Escape));
-  user::Key(Qt::Key_P, Qt::ControlModifier);
-  const std::vector<std::string> shown = TakeDialogs();
-  ASSERT_EQ(shown.size(), 1U);
-  EXPECT_NE(shown[0].find("“Remember Parameters” could not be carried out."), std::string::npos);
-  EXPECT_NE(shown[0].find("Fundlet.Preferences"), std::string::npos);
+  user::Shortcut(Qt::Key_P);
+  EXPECT_EQ(TakeDialogs(), Texts{"“Remember Parameters” could not be carried out. File “" +
+                                 (folder_.Path() / "Fundlet.Preferences").string() +
+                                 "” could not be opened: there is a folder of that name."});
   EXPECT_EQ(Text("COLAField"), "3.0");
   EXPECT_EQ(FocusName(), "COLAField");
   Calculate();
@@ -107,22 +88,21 @@ TEST_F(Commands, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
 }
 
 TEST_F(Commands, TheLifeExpectancyIsThatOfTheAgeBeingTyped) {
-  const struct {
-    Qt::Key key;
-    const char* years;
-  } cases[] = {{Qt::Key_2, "14"}, {Qt::Key_4, "19"}, {Qt::Key_8, "23"}};
-  for (const auto& [key, years] : cases) {
+  const std::pair<Way, const char*> cases[] = {
+      {[] { user::Shortcut(Qt::Key_2); }, "14"},
+      {[] { user::Shortcut(Qt::Key_4); }, "19"},
+      {[] { user::Shortcut(Qt::Key_8); }, "23"},
+      {[] { user::Choose("Edit", "Calculate life expectancy", "when 1/2 survive"); }, "14"},
+  };
+  for (const auto& [choose, years] : cases) {
     Fill("StartAgeField", "70");
-    user::Key(key, Qt::ControlModifier);
+    choose();
     EXPECT_EQ(Selected("YearsLeftField"), years);
     EXPECT_EQ(FocusName(), "YearsLeftField");
   }
-  Fill("StartAgeField", "70");
-  user::Choose("Edit", "Calculate life expectancy", "when 1/2 survive");
-  EXPECT_EQ(Selected("YearsLeftField"), "14");
 }
 
-TEST_F(Enabling, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
+TEST_F(Commands, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
   const auto able = [](const char* item) {
     Main().EnableMenuItems();
     return Main().MenuBar()._Lookup(item).Enabled();
@@ -144,53 +124,45 @@ TEST_F(Enabling, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
   EXPECT_EQ(after("Clear"), "7");
 }
 
-TEST_F(AboutPanel, ShowsTheNameAndTheVersionAndComesBackToTheField) {
+TEST_F(Commands, AboutShowsTheVersionOrTellsOfAFunctionThatIsNotFound) {
   Fill("COLAField", "3");
-  ExpectDialog(ByKey(Qt::Key_Escape));
-  user::Choose("File", "About Fundlet…");
-  EXPECT_EQ(TakeDialogs(), std::vector<std::string>{"FundletVersion 5"});
-  EXPECT_EQ(FocusName(), "COLAField");
-}
-
-TEST_F(AboutPanel, AFunctionThatIsNotFoundIsTold) {
-  SetLibrariesPresent(false);
-  ExpectDialog(ByKey(Qt::Key_Escape));
-  user::Choose("File", "About Fundlet…");
+  for (const bool found : {true, false}) {
+    SetLibrariesPresent(found);
+    ExpectDialog(ByKey(Qt::Key_Escape));
+    user::Choose("File", "About Fundlet…");
+    EXPECT_EQ(FocusName(), "COLAField");
+  }
   SetLibrariesPresent(true);
   EXPECT_EQ(TakeDialogs(),
-            std::vector<std::string>{"“About Fundlet…” could not be carried out. The function "
-                                     "“NSClassFromString” was not found in the library “Cocoa”."});
+            (Texts{"FundletVersion 5",
+                   "“About Fundlet…” could not be carried out. The function “NSClassFromString” "
+                   "was not found in the library “Cocoa”."}));
 }
 
-TEST_F(Closing, EndsTheProgramByMenuKeyAndCloseBoxAlsoWithHelpOrAMessageOpen) {
-  static const Answer close_main = [](QWidget&) {
-    user::CloseBox(*Found("StartYearField").window());
-  };
-  const std::function<void()> endings[] = {
+TEST_F(Commands, EachWayToCloseEndsTheProgramAlsoWithHelpOrAMessageOpen) {
+  static const Way close_main = [] { user::CloseBox(*Found("StartYearField").window()); };
+  const Answer by_closing_main = [](QWidget& /*dialog*/) { close_main(); };
+  const Way endings[] = {
       [] { user::Choose("File", "Quit"); },
-      [] { user::Key(Qt::Key_Q, Qt::ControlModifier); },
-      [] { user::CloseBox(*Found("StartYearField").window()); },
+      [] { user::Shortcut(Qt::Key_Q); },
+      close_main,
       [] {
         user::Key(Qt::Key_F1);
         user::Choose("File", "Quit");
       },
-      [this] {
-        Fill("StartAgeField", "1");
-        ExpectDialog(close_main);
-        Calculate();
-      },
-      [this] {
+      [&] { CalculateRefused(by_closing_main); },
+      [&] {
         folder_.Write("old.txt", "old");
         Calculate();
         ExpectDialog([&](QWidget& dialog) {
-          ExpectDialog(close_main);
+          ExpectDialog(by_closing_main);
           BySaving(folder_.Path() / "old.txt")(dialog);
         });
-        user::Key(Qt::Key_S, Qt::ControlModifier);
+        user::Shortcut(Qt::Key_S);
       },
       [] { QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit)); },
   };
-  for (const auto& ending : endings) {
+  for (const Way& ending : endings) {
     EXPECT_EQ(RunWith(ending), 0);
     EndProgram();
     Start();

@@ -1,22 +1,19 @@
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QMessageBox>
 #include <QToolTip>
 
-#include "desktop/native_window.h"
+#include "desktop/text_area.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
+#include "ui/help_window.h"
 #include "ui/main_layout.h"
 
 namespace fundlet {
 namespace {
 
-using Validation = StartedTest;
 using Fields = StartedTest;
 
-TEST_F(Validation, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
+TEST_F(Fields, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
   Fill("StartAgeField", "60");
-  user::Key(Qt::Key_P, Qt::ControlModifier);
+  user::Shortcut(Qt::Key_P);
   const struct {
     const char *field, *typed, *message, *forced;
     Answer answer;
@@ -31,7 +28,7 @@ TEST_F(Validation, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
   };
   for (const auto& [field, typed, message, forced, answer] : refusals) {
     SCOPED_TRACE(message);
-    user::Key(Qt::Key_R, Qt::ControlModifier);
+    user::Shortcut(Qt::Key_R);
     Fill(field, typed);
     ExpectDialog([&answer = answer](QWidget& dialog) {
       EXPECT_EQ(static_cast<QMessageBox&>(dialog).icon(), QMessageBox::Warning);
@@ -40,7 +37,6 @@ TEST_F(Validation, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
     Calculate();
     EXPECT_EQ(TakeDialogs(), std::vector<std::string>{message});
     EXPECT_EQ(FocusName(), field);
-    EXPECT_EQ(Text(field), forced);
     EXPECT_EQ(Selected(field), forced);
     EXPECT_EQ(Result(), "Initial Year Draw:  $0");
   }
@@ -53,7 +49,7 @@ TEST_F(Fields, AMenuOrAToolTipIsNoLossOfFocus) {
       [] { user::Key(Qt::Key_E, Qt::AltModifier); },
   };
   for (const auto& open : openings) {
-    user::Key(Qt::Key_A, Qt::ControlModifier);
+    user::Shortcut(Qt::Key_A);
     open();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     user::Key(Qt::Key_Escape);
@@ -68,10 +64,7 @@ TEST_F(Fields, AMenuOrAToolTipIsNoLossOfFocus) {
   EXPECT_EQ(Text("StartFundletField"), "1234.5");
   user::Key(Qt::Key_End);
   user::Type("6");
-  QWidget& field = Found("StartFundletField");
-  QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, field.mapToGlobal(QPoint(5, 5)));
-  QCoreApplication::sendEvent(&field, &event);
-  user::Settle();
+  user::OpenContextMenu();
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
   EXPECT_EQ(Text("StartFundletField"), "1234.56");
   QApplication::activePopupWidget()->close();
@@ -90,9 +83,7 @@ TEST_F(Fields, EachOpensTheHelpAndShowsWhatWasReadWhenItIsLeft) {
 }
 
 TEST_F(Fields, ActivationsLeadBackToTheRefusedFieldUntilTheNextPress) {
-  Fill("StartAgeField", "10");
-  ExpectDialog(ByKey(Qt::Key_Escape));
-  Calculate();
+  CalculateRefused();
   const std::function<void()> departures[] = {
       [] {
         user::Key(Qt::Key_F1);
@@ -102,7 +93,7 @@ TEST_F(Fields, ActivationsLeadBackToTheRefusedFieldUntilTheNextPress) {
         ExpectDialog(ByKey(Qt::Key_Escape));
         user::Choose("File", "About Fundlet…");
       },
-      [] { user::VisitAnotherWindow(Main().Native()); },
+      [] { user::VisitAnotherWindow(); },
   };
   const auto expect_focus_after_each = [&](const char* field) {
     for (const auto& leave_and_return : departures) {
@@ -124,6 +115,29 @@ TEST_F(Fields, AClickSelectsTheWholeTextAndTheNextOnePlacesTheCaret) {
   user::Click(field, QPoint(2, 10));
   user::Type("9");
   EXPECT_EQ(Text("EndFundletField"), "9100,000");
+}
+
+TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
+  const auto check = [](auto& control) {
+    control.SetText("a😀b😀");
+    control.SetSelStart(1);
+    control.SetSelLength(2);
+    EXPECT_EQ(control.SelStart(), 1);
+    EXPECT_EQ(control.SelLength(), 2);
+    control.SetSelLength(99);
+    EXPECT_EQ(control.SelLength(), 3);
+    control.SetSelStart(4);
+    EXPECT_EQ(control.SelStart(), 4);
+    EXPECT_EQ(control.SelLength(), 0);
+  };
+  check(Main().COLAField());
+  Main().COLAField().SetFocus();
+  check(Main().COLAField());
+  Main().COLAField().SetSelStart(1);
+  Main().COLAField().SetSelLength(1);
+  EXPECT_EQ(Selected("COLAField"), "😀");
+  user::Key(Qt::Key_F1);
+  check(GlobalModule::HelpWindow->TextField());
 }
 
 }  // namespace

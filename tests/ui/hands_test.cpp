@@ -1,17 +1,9 @@
 #include <QAccessible>
-#include <QAction>
-#include <QClipboard>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
-#include <QMenu>
 #include <QMimeData>
-#include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QTest>
 
-#include "desktop/native_window.h"
-#include "services/background.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
 #include "ui/help_window.h"
@@ -31,13 +23,7 @@ class Hand : public StartedTest {
   }
   static void Paste(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
-    user::Key(Qt::Key_V, Qt::ControlModifier);
-  }
-  static void DoubleClick(QWidget& widget, QPoint at) {
-    QWidget* window = widget.window();
-    const QPoint place = widget.mapTo(window, at);
-    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, place);
-    user::Settle();
+    user::Shortcut(Qt::Key_V);
   }
   static void Repeat(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
                      const QString& text = "") {
@@ -60,7 +46,6 @@ void RepeatUntold(QWidget& window, Qt::Key key) {
 
 using HeldKey = Hand;
 using HelpPage = Hand;
-using AnEnd = FundletTest;
 using ASmallScreen = FundletTest;
 
 TEST_F(Hand, ADoubleClickSelectsTheWholeAmount) {
@@ -68,7 +53,8 @@ TEST_F(Hand, ADoubleClickSelectsTheWholeAmount) {
     for (const bool focused : {false, true}) {
       QWidget& widget = Found(field);
       if (focused) user::Click(widget);
-      DoubleClick(widget, {widget.width() / 2, 10});
+      const QPoint middle = widget.mapTo(widget.window(), widget.rect().center());
+      QTest::mouseDClick(widget.window()->windowHandle(), Qt::LeftButton, {}, middle);
       EXPECT_EQ(Selected(field), Text(field));
     }
   }
@@ -77,34 +63,25 @@ TEST_F(Hand, ADoubleClickSelectsTheWholeAmount) {
 }
 
 TEST_F(Hand, APasteGoesInWholeOrNotAtAllByEveryRoad) {
-  const auto by_context_menu = [] {
-    QWidget& field = *QApplication::focusWidget();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, field.mapToGlobal(QPoint(5, 5)));
-    QCoreApplication::sendEvent(&field, &event);
-    user::Settle();
-    auto* menu = static_cast<QMenu*>(QApplication::activePopupWidget());
-    for (QAction* action : menu->actions()) {
-      if (action->text().remove('&') == "Paste") action->trigger();
-    }
-    menu->close();
-    user::Settle();
-  };
   const std::function<void()> roads[] = {
-      [] { user::Key(Qt::Key_V, Qt::ControlModifier); },
+      [] { user::Shortcut(Qt::Key_V); },
       [] { user::Key(Qt::Key_Insert, Qt::ShiftModifier); },
       [] { user::Choose("Edit", "Paste"); },
-      by_context_menu,
+      [] {
+        user::OpenContextMenu();
+        user::Pick("Paste");
+      },
   };
   for (const auto& paste : roads) {
     Fill("SocialSecurityField", "7");
-    user::Key(Qt::Key_A, Qt::ControlModifier);
+    user::Shortcut(Qt::Key_A);
     QGuiApplication::clipboard()->setText("1,234,567");
     paste();
     EXPECT_EQ(Text("SocialSecurityField"), "7");
     QGuiApplication::clipboard()->setText("\u202F 25,000\n");
     paste();
     EXPECT_EQ(Text("SocialSecurityField"), "25,000");
-    user::Key(Qt::Key_Z, Qt::ControlModifier);
+    user::Shortcut(Qt::Key_Z);
     EXPECT_EQ(Text("SocialSecurityField"), "7");
   }
   Fill("StartFundletField", "");
@@ -127,47 +104,43 @@ TEST_F(Hand, ADropReplacesTheTextAndIsKeptByTheNextActivation) {
   Drop(field, "4");
   EXPECT_EQ(FocusName(), "FundletAPRField");
   EXPECT_EQ(ThePlan().COLA, 0.02);
-  QWidget other;
-  other.show();
-  other.activateWindow();
-  user::Settle();
-  Drop(field, " 4.5");
-  user::Settle();
-  other.close();
-  Main().Native().activateWindow();
-  user::Settle();
+  user::VisitAnotherWindow([&] { Drop(field, " 4.5"); });
   EXPECT_EQ(Text("FundletAPRField"), "4.5");
   EXPECT_EQ(ThePlan().FundletAPR, 0.045);
 }
 
 TEST_F(Hand, TheLimitHoldsForWhatIsEnteredOverALongerTextAndUndoSurvives) {
+  user::Replace("123456");
+  EXPECT_EQ(Text("StartYearField"), "1234");
   Fill("COLAField", "1.25");
   QInputMethodEvent commit;
   commit.setCommitString("34");
   QCoreApplication::sendEvent(&Found("COLAField"), &commit);
   EXPECT_EQ(Text("COLAField"), "1.25");
+  QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&Found("StartAgeField"));
+  for (const auto& [set, text] : {std::pair{"400", "65"}, {"70", "70"}}) {
+    reader->setText(QAccessible::Value, set);
+    EXPECT_EQ(Text("StartAgeField"), text);
+  }
   Fill("StartFundletField", "");
   Main().StartFundletField().SetText("1,000,000,000");
-  user::Key(Qt::Key_A, Qt::ControlModifier);
+  user::Type("5");
+  user::Shortcut(Qt::Key_A);
   Paste("123456789012");
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
   user::Key(Qt::Key_End);
   user::Key(Qt::Key_Backspace);
   user::Type("5");
-  user::Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Text("StartFundletField"), "1,000,000,00");
+  user::Shortcut(Qt::Key_Z);
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
+  for (int deleted = 0; deleted < 3; ++deleted) user::Key(Qt::Key_Backspace);
+  user::Type("56");
+  EXPECT_EQ(Text("StartFundletField"), "1,000,000,5");
   Fill("StartYearField", "");
   Main().StartYearField().SetText("😀😀😀");
   user::Type("12");
   EXPECT_EQ(Text("StartYearField"), "😀😀😀1");
-}
-
-TEST_F(Hand, AScreenReaderMeetsTheSameLimit) {
-  QAccessibleInterface* field = QAccessible::queryAccessibleInterface(&Found("StartAgeField"));
-  field->setText(QAccessible::Value, "400");
-  EXPECT_EQ(Text("StartAgeField"), "65");
-  field->setText(QAccessible::Value, "70");
-  EXPECT_EQ(Text("StartAgeField"), "70");
 }
 
 TEST_F(Hand, ATextWithoutTheFocusIsSeenFromItsHead) {
@@ -192,9 +165,7 @@ TEST_F(HeldKey, AnswersNoDialogButStillTypesAName) {
     }
     ByKey(Qt::Key_Escape)(dialog);
   };
-  Fill("StartAgeField", "51");
-  ExpectDialog(only_by_a_fresh_key);
-  Calculate();
+  CalculateRefused(only_by_a_fresh_key);
   ExpectDialog(only_by_a_fresh_key);
   user::Choose("File", "About Fundlet…");
   Fill("StartAgeField", "60");
@@ -208,16 +179,14 @@ TEST_F(HeldKey, AnswersNoDialogButStillTypesAName) {
     if (QWidget* completer = QApplication::activePopupWidget()) completer->hide();
     only_by_a_fresh_key(dialog);
   });
-  user::Key(Qt::Key_S, Qt::ControlModifier);
+  user::Shortcut(Qt::Key_S);
 }
 
 TEST_F(Hand, AMenuOpenedOverAMessageLeavesTheForcedValue) {
-  Fill("StartAgeField", "51");
-  ExpectDialog([](QWidget& dialog) {
+  CalculateRefused([](QWidget& dialog) {
     Main().Native().findChild<QMenu*>("EditMenu")->aboutToShow();
     ByKey(Qt::Key_Return)(dialog);
   });
-  Calculate();
   EXPECT_EQ(Text("StartAgeField"), "52");
   user::Type("61");
   EXPECT_EQ(Text("StartAgeField"), "61");
@@ -231,11 +200,10 @@ TEST_F(HelpPage, IsFoundAsItWasLeftAndAPressPlacesTheCaretWhereItIs) {
   EXPECT_EQ(page.textCursor().blockNumber(), 1);
   user::Key(Qt::Key_Tab);
   page.verticalScrollBar()->setValue(20);
-  user::Click(*page.viewport(), {40, 100});
+  user::Click(*page.viewport(), QPoint(40, 100));
   EXPECT_EQ(page.verticalScrollBar()->value(), 20);
   EXPECT_TRUE(page.viewport()->rect().contains(page.cursorRect()));
-  Main().Native().activateWindow();
-  user::Settle();
+  user::Activate(Main());
   user::Key(Qt::Key_F1);
   EXPECT_EQ(page.verticalScrollBar()->value(), 20);
   user::Key(Qt::Key_Tab);
@@ -259,18 +227,6 @@ TEST_F(ASmallScreen, ShowsTheTitleBarOfTheHelpAndItsButton) {
   EXPECT_LE(help.bottom(), 384);
   const QRect button = Found("DoneButton").geometry();
   EXPECT_EQ(button.top(), GlobalModule::HelpWindow->Height() - 35);
-}
-
-TEST_F(AnEnd, ThatTheDesktopAsksForEndsTheStartToo) {
-  folder_.Write("Fundlet.Preferences", "x");
-  ExpectDialog([](QWidget&) {
-    QEvent quit(QEvent::Quit);
-    QCoreApplication::sendEvent(qApp, &quit);
-  });
-  Start();
-  EXPECT_EQ(Window::Front(), nullptr);
-  for (const QWidget* top : QApplication::topLevelWidgets()) EXPECT_FALSE(top->isVisible());
-  EXPECT_EQ(RunWith([] {}), 0);
 }
 
 }  // namespace

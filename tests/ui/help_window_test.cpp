@@ -1,11 +1,7 @@
 #include "ui/help_window.h"
 
 #include <QAction>
-#include <QClipboard>
-#include <QPlainTextEdit>
-#include <QPushButton>
 
-#include "desktop/native_window.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
 #include "ui/help_text.h"
@@ -28,13 +24,13 @@ class Help : public StartedTest {
 
 TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
   const std::function<void()> routes[] = {
-      [] { user::Key(Qt::Key_E, Qt::ControlModifier); },
+      [] { user::Shortcut(Qt::Key_E); },
       [] { user::Key(Qt::Key_Help); },
       [] { user::Key(Qt::Key_F1); },
       [] { user::Choose("Help", "Fundlet Help…"); },
       [] {
         Main().ClearFocus();
-        user::Key(Qt::Key_E, Qt::ControlModifier);
+        user::Shortcut(Qt::Key_E);
       },
   };
   for (const auto& open : routes) {
@@ -43,14 +39,12 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
     EXPECT_EQ(Showing(), 1);
     EXPECT_EQ(QApplication::activeWindow(), &Window().Native());
     const aHelpWindow* first = &Window();
-    Main().Native().activateWindow();
-    user::Settle();
+    user::Activate(Main());
     EXPECT_EQ(Text("COLAField"), "3.1");
     user::Key(Qt::Key_F1);
-    EXPECT_EQ(&Window(), first);
-    EXPECT_EQ(Showing(), 1);
     user::Choose("Help", "Fundlet Help…");
     EXPECT_EQ(&Window(), first);
+    EXPECT_EQ(Showing(), 1);
     user::Key(Qt::Key_Return);
     EXPECT_EQ(Showing(), 0);
     EXPECT_FALSE(GlobalModule::HelpShowing);
@@ -61,9 +55,8 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
 // A desktop may let a menu be chosen from before its window has become the active one.
 TEST_F(Help, MenusActOnTheWindowTheyHangFrom) {
   user::Key(Qt::Key_F1);
-  user::Key(Qt::Key_A, Qt::ControlModifier);
-  Main().Native().activateWindow();
-  user::Settle();
+  user::Shortcut(Qt::Key_A);
+  user::Activate(Main());
   Window().EnableMenuItems();
   Window().Native().findChild<QAction*>("EditCopy")->trigger();
   EXPECT_EQ(QGuiApplication::clipboard()->text().left(8).toStdString(), "Fundlet\n");
@@ -102,16 +95,13 @@ TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
 
 TEST_F(Help, LeavesAMessageOfTheMainWindowOpenWhenItCloses) {
   user::Key(Qt::Key_F1);
-  Main().Native().activateWindow();
-  user::Settle();
-  Fill("StartAgeField", "1");
-  ExpectDialog([](QWidget& dialog) {
+  user::Activate(Main());
+  CalculateRefused([](QWidget& dialog) {
     user::CloseBox(Window().Native());
     EXPECT_EQ(Showing(), 0);
     EXPECT_TRUE(dialog.isVisible());
     ByKey(Qt::Key_Return)(dialog);
   });
-  Calculate();
   EXPECT_FALSE(GlobalModule::HelpShowing);
 }
 
@@ -130,7 +120,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   EXPECT_EQ(enabled(), "");
   for (int i = 0; i < 7; ++i) user::Key(Qt::Key_Right, Qt::ShiftModifier);
   user::Key(Qt::Key_Tab);
-  user::Key(Qt::Key_C, Qt::ControlModifier);
+  user::Shortcut(Qt::Key_C);
   EXPECT_EQ(enabled(), "EditCopy");
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "Fundlet");
   EXPECT_FALSE(Window().MenuBar()._Lookup("FileSave").Enabled());

@@ -1,11 +1,8 @@
 #include <cmath>
-#include <map>
+#include <set>
 
 #include <QFontInfo>
 #include <QImage>
-#include <QLabel>
-#include <QMenu>
-#include <QPainter>
 #include <QPushButton>
 
 #include "tests/ui/window_fixture.h"
@@ -36,21 +33,17 @@ QImage Picture(QWidget& window, double scale) {
   return image;
 }
 
-// The contrast of what stands out most in a part of a picture to the colour that fills it.
+// The contrast of the lightest colour in a part of a picture to the darkest.
 double ContrastIn(const QImage& picture, const QRect& part) {
-  std::map<QRgb, int> count;
-  const QRect pixels(part.topLeft() * picture.devicePixelRatio(),
-                     part.size() * picture.devicePixelRatio());
-  for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-    for (int x = pixels.left(); x <= pixels.right(); ++x) ++count[picture.pixel(x, y)];
+  const double scale = picture.devicePixelRatio();
+  const QImage seen = picture.copy(QRect(part.topLeft() * scale, part.size() * scale));
+  std::set<QRgb> colours;
+  for (int y = 0; y < seen.height(); ++y) {
+    for (int x = 0; x < seen.width(); ++x) colours.insert(seen.pixel(x, y));
   }
-  const auto fill = std::max_element(
-      count.begin(), count.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
-  double most = 1.0;
-  for (const auto& [colour, pixel_count] : count) {
-    most = std::max(most, Contrast(colour, fill->first));
-  }
-  return most;
+  const auto [dark, light] = std::minmax_element(
+      colours.begin(), colours.end(), [](QRgb a, QRgb b) { return Luminance(a) < Luminance(b); });
+  return Contrast(*dark, *light);
 }
 
 // The width and height in pixels of the text of a widget, seen with more room than it needs.
@@ -58,75 +51,72 @@ QSize TextSize(QWidget& widget, int frame, double scale) {
   const QSize before = widget.size();
   widget.setFixedSize(before + QSize(80, 20));
   const QImage picture = Picture(widget, scale);
-  QRect text;
+  widget.setFixedSize(before);
   const QRect inside = picture.rect().marginsRemoved(QMargins() + static_cast<int>(frame * scale));
   const QRgb fill = picture.pixel(inside.bottomRight());
+  QRect text;
   for (int y = inside.top(); y <= inside.bottom(); ++y) {
     for (int x = inside.left(); x <= inside.right(); ++x) {
       if (Contrast(picture.pixel(x, y), fill) > 1.5) text |= QRect(x, y, 1, 1);
     }
   }
-  widget.setFixedSize(before);
   return text.size();
 }
 
-using TextRoom = FundletTest;
-
-TEST_F(TextRoom, IsEnoughForEveryTextInAnySystemFontAndScale) {
-  for (const char* family : {"DejaVu Sans", "Liberation Sans", "Noto Sans"}) {
-    Start(family);
-    Main().ClearFocus();
-    EXPECT_EQ(QFontInfo(Found("CalculateButton").font()).family(), family);
-    for (const main_layout::ControlRow& row : main_layout::Controls()) {
-      if (row.text.empty()) continue;
-      QWidget& widget = *Main()._ControlByName(row.name).Native();
-      const int frame = qobject_cast<QLabel*>(&widget) != nullptr ? 0 : 3;
-      if (frame != 0) widget.setProperty("text", QString::fromUtf8(row.text.data()));
-      if (row.name == "AnnualDrawField") {
-        Main().AnnualDrawField().SetText("Initial Year Draw:  $9,999,999,999");
-      }
-      for (const double scale : kScales) {
-        const QSize text = TextSize(widget, frame, scale);
-        const QSize room = (widget.size() - 2 * QSize(frame, frame)) * scale;
-        EXPECT_TRUE(text.width() > 0 && text.width() <= room.width() &&
-                    text.height() <= room.height())
-            << family << ", " << row.name << " at " << scale << ": " << text.width() << " by "
-            << text.height() << " in " << room.width() << " by " << room.height();
-      }
-    }
-    EndProgram();
-  }
-}
-
-class Legibility : public StartedTest {
+class Legibility : public FundletTest {
  protected:
-  // The inside of a control, without its frame.
-  static QRect Inside(QWidget& widget) {
-    QWidget& window = *widget.window();
-    return QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size()).adjusted(4, 3, -4, -3);
+  // What is inside a control's frame.
+  static QRect Inside(const QWidget& widget) {
+    const QPoint corner = widget.mapTo(widget.window(), QPoint(0, 0));
+    return QRect(corner, widget.size()).adjusted(4, 3, -4, -3);
   }
-  static void ExpectLegible(double scale) {
-    const QImage picture = Picture(*Found("CalculateButton").window(), scale);
+  static void ForEachControl(
+      const std::function<void(const main_layout::ControlRow&, QWidget&)>& do_with) {
     for (const main_layout::ControlRow& row : main_layout::Controls()) {
-      if (row.text.empty()) continue;
-      QWidget& widget = *Main()._ControlByName(row.name).Native();
-      const double least = widget.isEnabled() ? 7.0 : 4.5;
-      EXPECT_GE(ContrastIn(picture, Inside(widget)), least) << row.name << " at " << scale;
+      if (!row.text.empty()) do_with(row, *Main()._ControlByName(row.name).Native());
     }
   }
 };
 
+TEST_F(Legibility, HasRoomForEveryTextInAnySystemFontAndScale) {
+  for (const char* family : {"DejaVu Sans", "Liberation Sans", "Noto Sans"}) {
+    Start(family);
+    Main().ClearFocus();
+    EXPECT_EQ(QFontInfo(Found("CalculateButton").font()).family(), family);
+    Main().AnnualDrawField().SetText("Initial Year Draw:  $9,999,999,999");
+    ForEachControl([&](const auto& row, QWidget& widget) {
+      const int frame = qobject_cast<QLabel*>(&widget) != nullptr ? 0 : 3;
+      if (frame != 0) widget.setProperty("text", QString::fromUtf8(row.text.data()));
+      for (const double scale : kScales) {
+        const QSize text = TextSize(widget, frame, scale);
+        const QSize room = (widget.size() - 2 * QSize(frame, frame)) * scale;
+        EXPECT_EQ(text.boundedTo(room), text) << family << ", " << row.name << " at " << scale;
+        EXPECT_FALSE(text.isEmpty()) << row.name;
+      }
+    });
+    EndProgram();
+  }
+}
+
 TEST_F(Legibility, HoldsUnderAnyThemeAndScale) {
+  Start();
   const QPalette light = QApplication::palette();
   for (const QPalette& theme : {light, QPalette(QColor(40, 40, 44), QColor(25, 25, 28))}) {
     QApplication::setPalette(theme);
     user::Settle();
-    for (const double scale : kScales) ExpectLegible(scale);
+    for (const double scale : kScales) {
+      const QImage picture = Picture(Main().Native(), scale);
+      ForEachControl([&](const auto& row, QWidget& widget) {
+        EXPECT_GE(ContrastIn(picture, Inside(widget)), widget.isEnabled() ? 7.0 : 4.5)
+            << row.name << " at " << scale;
+      });
+    }
   }
   QApplication::setPalette(light);
 }
 
 TEST_F(Legibility, HoldsInTheMenusTheHelpAndTheMessages) {
+  Start();
   user::OpenMenu("Edit");
   user::Key(Qt::Key_Down);
   auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
@@ -148,26 +138,24 @@ TEST_F(Legibility, HoldsInTheMenusTheHelpAndTheMessages) {
   expect_legible(Found("TextField"));
   expect_legible(Found("DoneButton"));
   user::Key(Qt::Key_Return);
-  Fill("StartAgeField", "1");
-  ExpectDialog([&](QWidget& dialog) {
+  CalculateRefused([&](QWidget& dialog) {
     expect_legible(*dialog.findChild<QLabel*>("qt_msgbox_label"));
     expect_legible(*dialog.findChild<QPushButton*>());
     ByKey(Qt::Key_Return)(dialog);
   });
-  Calculate();
 }
 
 TEST_F(Legibility, OfTheFocusIsARingThatStandsOutAroundOneControl) {
+  Start();
   for (const char* name : {"StartAgeField", "YearsLeftField", "EndFundletField", "SaveButton"}) {
     while (FocusName() != name) user::Key(Qt::Key_Tab);
-    const QImage picture = Picture(*Found(name).window(), 1.0);
-    for (const main_layout::ControlRow& row : main_layout::Controls()) {
-      QWidget& widget = *Main()._ControlByName(row.name).Native();
-      if (widget.focusPolicy() == Qt::NoFocus) continue;
+    const QImage picture = Picture(Main().Native(), 1.0);
+    ForEachControl([&](const auto& row, QWidget& widget) {
+      if (widget.focusPolicy() == Qt::NoFocus) return;
       const QRect around(widget.mapTo(widget.window(), QPoint(0, 0)), widget.size());
       const QRgb ring = picture.pixel(around.center().x(), around.top() - 1);
       EXPECT_EQ(Contrast(ring, qRgb(0xCC, 0xFF, 0xCC)) >= 3.0, row.name == name) << row.name;
-    }
+    });
   }
 }
 

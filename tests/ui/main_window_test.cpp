@@ -1,7 +1,7 @@
 #include <QDate>
 #include <QScreen>
+#include <QToolTip>
 
-#include "desktop/native_window.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/main_layout.h"
 
@@ -9,6 +9,7 @@ namespace fundlet {
 namespace {
 
 using MainWindow = StartedTest;
+using AStart = FundletTest;
 
 TEST_F(MainWindow, HasEveryControlInItsPlaceAndNoneOnAnother) {
   QWidget& content = Main().Native().Content();
@@ -70,10 +71,8 @@ TEST_F(MainWindow, ReturnSolvesTheDefaultPlanAndGoesBackToTheField) {
   EXPECT_EQ(FocusName(), "YearsLeftField");
   const std::string result = Result();
   EXPECT_NE(result, "Initial Year Draw:  $73,325");
-  Fill("StartAgeField", "1");
-  ExpectDialog(ByKey(Qt::Key_Return));
-  Calculate();
-  user::VisitAnotherWindow(Main().Native());
+  CalculateRefused();
+  user::VisitAnotherWindow();
   EXPECT_EQ(Result(), result);
   EXPECT_TRUE(Found("PrintButton").isEnabled());
 }
@@ -94,6 +93,68 @@ TEST_F(MainWindow, APlanThatCannotBeSolvedIsToldAndTheNextOneSolves) {
   Calculate();
   EXPECT_EQ(Result(), "Initial Year Draw:  $73,325");
   EXPECT_TRUE(Found("PrintButton").isEnabled());
+}
+
+TEST_F(MainWindow, ShowsAToolTipOnItsLinesAndOnADimmedButtonToo) {
+  const std::tuple<const char*, const char*, int> cases[] = {
+      {"PrintButton", "save a schedule of draws", 2},
+      {"YearsLeftField", "after the first year.\n\nUse the Edit", 3}};
+  for (const auto& [control, part, lines] : cases) {
+    QWidget& widget = Found(control);
+    QWidget& window = *widget.window();
+    QTest::mouseMove(window.windowHandle(), widget.mapTo(&window, QPoint(9, 9)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QToolTip::text().contains(part); })) << control;
+    for (const QWidget* top : QApplication::topLevelWidgets()) {
+      const auto* tip = qobject_cast<const QLabel*>(top);
+      if (tip == nullptr || !tip->isVisible()) continue;
+      EXPECT_EQ(tip->height() / tip->fontMetrics().lineSpacing(), lines) << control;
+    }
+  }
+}
+
+constexpr const char* kFile = "Fundlet.Preferences";
+
+TEST_F(AStart, GoesOnAfterAFileThatCannotBeReadAndLeavesItAlone) {
+  for (const std::string& bytes : {std::string(), std::string(3, 'x'), std::string(43, '\7')}) {
+    folder_.Write(kFile, bytes);
+    ExpectDialog(ByKey(Qt::Key_Return));
+    Start();
+    EXPECT_EQ(TakeDialogs(), std::vector<std::string>{"File “Fundlet.Preferences” is busy."});
+    EXPECT_EQ(FocusName(), "StartYearField");
+    user::Type("2010");
+    user::Key(Qt::Key_Tab);
+    EXPECT_EQ(Text("StartYearField"), "2010");
+    EXPECT_EQ(folder_.Read(kFile), bytes);
+    EndProgram();
+  }
+}
+
+TEST_F(AStart, TakesNumbersThatAreNoneAndCalculatesOrRefuses) {
+  for (const char* value : {"\x7F\xF8\1\1\1\1\1\1", "\x7F\xEF\1\1\1\1\1\1"}) {
+    std::string record = "\x07\xE4\x3C\x1E";
+    for (int number = 0; number < 5; ++number) record += value;
+    folder_.Write(kFile, record);
+    Start();
+    ExpectDialog(ByKey(Qt::Key_Escape));
+    Calculate();
+    const bool told = !TakeDialogs().empty();
+    if (!told) ForgetExpected();
+    EXPECT_NE(told, ThePlan().OKtoPrint);
+    EXPECT_EQ(folder_.Read(kFile), record);
+    EndProgram();
+  }
+}
+
+TEST_F(AStart, IsEndedWhereTheDesktopAsksForTheEnd) {
+  folder_.Write(kFile, "x");
+  ExpectDialog([](QWidget&) {
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+  });
+  Start();
+  EXPECT_EQ(Window::Front(), nullptr);
+  for (const QWidget* top : QApplication::topLevelWidgets()) EXPECT_FALSE(top->isVisible());
+  EXPECT_EQ(RunWith([] {}), 0);
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
 #include <iterator>
 #include <random>
 
-#include <QTest>
-
-#include "desktop/native_window.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
 #include "ui/help_window.h"
@@ -59,7 +56,7 @@ class RandomWalk : public StartedTest {
     if (GlobalModule::HelpShowing && Below(2) == 0) {
       user::CloseBox(GlobalModule::HelpWindow->Native());
     } else {
-      user::VisitAnotherWindow(Main().Native());
+      user::VisitAnotherWindow();
     }
   }
   void TypeAPlanThatPasses() {

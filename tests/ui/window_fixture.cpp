@@ -3,19 +3,12 @@
 #include <utility>
 
 #include <QAction>
-#include <QClipboard>
-#include <QFileDialog>
-#include <QLabel>
-#include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <QWindow>
 
 #include "app/my_application.h"
-#include "desktop/native_window.h"
 #include "ui/global_module.h"
 
 namespace fundlet {
@@ -36,18 +29,15 @@ QAction* ActionNamed(const QWidget& menu, QString text) {
   throw std::runtime_error("no menu item " + text.toStdString());
 }
 
-void ClickItem(QMenu& menu, const QString& text) {
-  const QPoint at = menu.actionGeometry(ActionNamed(menu, text)).center();
+void ClickItem(const QString& text) {
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  if (menu == nullptr) throw std::runtime_error("no menu is open");
+  const QPoint at = menu->actionGeometry(ActionNamed(*menu, text)).center();
   // A menu takes no click before the mouse has moved.
-  QTest::mouseMove(menu.windowHandle(), at - QPoint(3, 1));
-  QTest::mouseMove(menu.windowHandle(), at);
-  QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, at);
+  QTest::mouseMove(menu->windowHandle(), at - QPoint(3, 1));
+  QTest::mouseMove(menu->windowHandle(), at);
+  QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, at);
   Settle();
-}
-
-QMenu& OpenPopup() {
-  if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) return *menu;
-  throw std::runtime_error("no menu is open");
 }
 
 // What a window manager does, which this platform lacks: a popup does not take the keyboard from
@@ -77,22 +67,28 @@ void Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   Settle();
 }
 
+void Shortcut(Qt::Key key) { Key(key, Qt::ControlModifier); }
+
 void Type(const std::string& text) {
   for (const char c : text) QTest::keyClick(InFront(), c);
   Settle();
 }
 
 void Replace(const std::string& text) {
-  Key(Qt::Key_A, Qt::ControlModifier);
+  Shortcut(Qt::Key_A);
   Key(Qt::Key_Backspace);
   Type(text);
 }
 
-void Click(QWidget& widget) { Click(widget, widget.rect().center()); }
-
-void Click(QWidget& widget, QPoint at, Qt::MouseButton button) {
+void Click(QWidget& widget, std::optional<QPoint> at) {
   QWidget* window = widget.window();
-  QTest::mouseClick(window->windowHandle(), button, {}, widget.mapTo(window, at));
+  const QPoint place = widget.mapTo(window, at.value_or(widget.rect().center()));
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
+  Settle();
+}
+
+void Activate(const Window& window) {
+  window.Native().activateWindow();
   Settle();
 }
 
@@ -101,13 +97,13 @@ void CloseBox(QWidget& window) {
   Settle();
 }
 
-void VisitAnotherWindow(QWidget& from) {
+void VisitAnotherWindow(const std::function<void()>& meanwhile) {
   QWidget other;
   other.show();
   other.activateWindow();
   Settle();
-  from.activateWindow();
-  Settle();
+  meanwhile();
+  Activate(aFundletWindow::Instance());
 }
 
 void OpenMenu(const QString& menu) {
@@ -115,12 +111,23 @@ void OpenMenu(const QString& menu) {
   Click(*bar, bar->actionGeometry(ActionNamed(*bar, menu)).center());
 }
 
-void Choose(const QString& menu, const QString& item, const QString& subitem) {
-  OpenMenu(menu);
-  ClickItem(OpenPopup(), item);
-  if (!subitem.isEmpty()) ClickItem(OpenPopup(), subitem);
+void OpenContextMenu() {
+  QWidget* widget = QApplication::focusWidget();
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, widget->mapToGlobal(QPoint(5, 5)));
+  QCoreApplication::sendEvent(widget, &event);
+  Settle();
+}
+
+void Pick(const QString& item, const QString& subitem) {
+  ClickItem(item);
+  if (!subitem.isEmpty()) ClickItem(subitem);
   while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
   Settle();
+}
+
+void Choose(const QString& menu, const QString& item, const QString& subitem) {
+  OpenMenu(menu);
+  Pick(item, subitem);
 }
 
 }  // namespace user
@@ -169,9 +176,9 @@ void DesktopTest::End() {
   runtime_.reset();
 }
 
-void DesktopTest::StartWith(const std::function<void()>& early, const std::function<void()>& late) {
+void DesktopTest::StartWith(const std::function<void()>& late) {
   runtime_.emplace("fundlet");
-  runtime_->Start(early, [&] {
+  runtime_->Start(&MyApplication::_EarlyStartup, [&] {
     watchdog_ = std::make_unique<QObject>();
     Watch();
     late();
@@ -181,33 +188,16 @@ void DesktopTest::StartWith(const std::function<void()>& early, const std::funct
 
 int DesktopTest::RunWith(const std::function<void()>& action) {
   QTimer::singleShot(0, watchdog_.get(), action);
-  QTimer::singleShot(std::chrono::seconds(20), watchdog_.get(), [] {
-    ADD_FAILURE() << "the program did not end";
-    QCoreApplication::exit(-1);
-  });
   return runtime_->Run();
 }
 
 std::vector<std::string> DesktopTest::TakeDialogs() { return std::exchange(shown_, {}); }
 
-namespace {
-
-QWidget* OpenDialog() {
-  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  if (auto* active = qobject_cast<QDialog*>(QApplication::activeWindow())) return active;
-  for (QWidget* top : QApplication::topLevelWidgets()) {
-    if (top->isVisible() && qobject_cast<QDialog*>(top) != nullptr) return top;
-  }
-  return nullptr;
-}
-
-}  // namespace
-
 void DesktopTest::Watch() {
   // Before anything else, so that it goes on while an answer runs an event loop of its own.
   QTimer::singleShot(2, watchdog_.get(), [this] { Watch(); });
-  QWidget* dialog = OpenDialog();
-  if (dialog == nullptr || dialog == handled_) return;
+  QWidget* dialog = QApplication::activeWindow();
+  if (qobject_cast<QDialog*>(dialog) == nullptr || dialog == handled_) return;
   QWidget* before = std::exchange(handled_, dialog);
   Handle(*dialog);
   handled_ = before;
@@ -229,7 +219,7 @@ void DesktopTest::Handle(QWidget& dialog) {
 
 void FundletTest::Start(const QString& system_font) {
   GlobalModule::Initialise();
-  StartWith(&MyApplication::_EarlyStartup, [&] {
+  StartWith([&] {
     if (!system_font.isEmpty()) QApplication::setFont(QFont(system_font));
     MyApplication::_LateStartup();
   });
@@ -245,6 +235,12 @@ void FundletTest::Fill(const QString& field, const std::string& text) {
     user::Key(Qt::Key_Tab);
   }
   user::Replace(text);
+}
+
+void FundletTest::CalculateRefused(Answer answer) {
+  Fill("StartAgeField", "51");
+  ExpectDialog(std::move(answer));
+  Calculate();
 }
 
 }  // namespace fundlet

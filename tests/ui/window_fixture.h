@@ -8,10 +8,16 @@
 #include <vector>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
-#include <QWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QTest>
 #include <gtest/gtest.h>
 
+#include "desktop/native_window.h"
 #include "desktop/runtime.h"
 #include "tests/services/scratch_folder.h"
 #include "ui/main_window.h"
@@ -25,14 +31,19 @@ namespace user {
 
 void Settle();
 void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void Shortcut(Qt::Key key);  // with the control key
 void Type(const std::string& text);
-void Replace(const std::string& text);  // selects all, then types
-void Click(QWidget& widget);
-void Click(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton);
+void Replace(const std::string& text);                       // selects all, then types
+void Click(QWidget& widget, std::optional<QPoint> at = {});  // in its middle, where none is named
+void Activate(const Window& window);
 void CloseBox(QWidget& window);
-void VisitAnotherWindow(QWidget& from);  // a window that is not the program's, and back
-// Opens the menu on the active window's bar, and then chooses the item; texts are as shown.
+// Goes to a window that is not the program's, and back.
+void VisitAnotherWindow(const std::function<void()>& meanwhile = [] {});
+// A menu on the active window's bar, or of the widget that has the focus, and an item of the open
+// menu; texts are as shown.
 void OpenMenu(const QString& menu);
+void OpenContextMenu();
+void Pick(const QString& item, const QString& subitem = "");
 void Choose(const QString& menu, const QString& item, const QString& subitem = "");
 
 }  // namespace user
@@ -71,7 +82,7 @@ class DesktopTest : public ::testing::Test {
   DesktopTest();
   ~DesktopTest() override;
 
-  void StartWith(const std::function<void()>& early, const std::function<void()>& late);
+  void StartWith(const std::function<void()>& late);
   // Runs the event loop with the action as its first event, until Quit; gives the exit status.
   int RunWith(const std::function<void()>& action);
   void End();  // ends the run; the preferences folder stays
@@ -111,6 +122,7 @@ class FundletTest : public DesktopTest {
   // Goes to the field by Tab and types over what it holds.
   static void Fill(const QString& field, const std::string& text);
   static void Calculate() { user::Key(Qt::Key_Return); }
+  void CalculateRefused(Answer answer = ByKey(Qt::Key_Escape));  // for an age of 51 years
 };
 
 // A program already started, with the defaults.
