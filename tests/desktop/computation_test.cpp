@@ -7,59 +7,23 @@
 namespace fundlet {
 namespace {
 
-// A window whose default button does what the test says.
-class Bench : public Window {
- public:
-  Bench() {
-    Add<TextField>("Field", 10);
-    Add<PushButton>("Go", 40).SetDefault(true);
-    Add<PushButton>("Other", 70).Action = [this](PushButton&) { log.push_back("other"); };
-    Add<ProgressWheel>("Wheel", 100);
-    _AddMenuHandler("FileParams", [this] {
-      log.push_back("shortcut");
+using Log = std::vector<std::string>;
+
+// The program, with a default button that does what the test says.
+class Computation : public StartedTest {
+ protected:
+  void SetUp() override {
+    StartedTest::SetUp();
+    Main().SaveButton().Action = [this](PushButton&) { log_.push_back("other"); };
+    Main()._AddMenuHandler("FileParams", [this] {
+      log_.push_back("shortcut");
       return true;
     });
   }
-  void Event_Activate() override { log.push_back("activate"); }
-  void Event_Close() override {
-    log.push_back("close");
-    Quit(0);
-  }
 
-  std::vector<std::string> log;
-
- private:
-  template <typename Kind>
-  Kind& Add(const char* name, int top) {
-    _AddControl(name, std::make_unique<Kind>(*this));
-    Kind& control = ControlOf<Kind>(name);
-    control.SetTop(top);
-    control.SetWidth(80);
-    control.SetHeight(20);
-    return control;
-  }
-};
-
-class BenchTest : public DesktopTest {
- protected:
-  void SetUp() override {
-    StartWith([this] {
-      bench_ = static_cast<Bench*>(&ImplicitInstance("Bench", [] {
-        auto window = std::make_unique<Bench>();
-        window->SetWidth(200);
-        window->SetHeight(150);
-        window->Open();
-        window->Show();
-        return window;
-      }));
-    });
-    bench_->log.clear();
-  }
-
-  void Do(const std::function<void()>& action) {
-    bench_->ControlOf<PushButton>("Go").Action = [=](PushButton&) { action(); };
-    QTest::keyClick(bench_->Native().windowHandle(), Qt::Key_Return);
-    user::Settle();
+  static void Do(const std::function<void()>& action) {
+    Main().CalculateButton().Action = [=](PushButton&) { action(); };
+    Calculate();
   }
   // A computation that yields until it is stopped; the events happen while it runs.
   void Compute(const std::function<void()>& events) {
@@ -67,33 +31,32 @@ class BenchTest : public DesktopTest {
     int running = 0;
     Do([&] {
       EXPECT_EQ(++running, 1);
-      bench_->log.push_back("begin");
+      log_.push_back("begin");
       if (!stopped)
-        QTimer::singleShot(0, &bench_->Native(), [&] {
+        QTimer::singleShot(0, qApp, [&] {
           events();
-          QTimer::singleShot(0, &bench_->Native(), [&] { stopped = true; });
+          QTimer::singleShot(0, qApp, [&] { stopped = true; });
         });
       while (!stopped && !UserCancelled()) RuntimeBackgroundTask();
       cancelled_ = UserCancelled();
-      bench_->log.push_back("end");
+      log_.push_back(Main().IsOpen() ? "end" : "closed");
       --running;
       while (!stopped) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     });
-    bench_->ControlOf<PushButton>("Go").Action = nullptr;
+    Main().CalculateButton().Action = nullptr;
   }
-  QWindow* Native() { return bench_->Native().windowHandle(); }
+  static QWindow* Native() { return Main().Native().windowHandle(); }
 
-  Bench* bench_ = nullptr;
+  Log log_;
   bool cancelled_ = false;
 };
 
-using Gate = BenchTest;
-using HeldInput = BenchTest;
-using Wheel = BenchTest;
-using Log = std::vector<std::string>;
+using Gate = Computation;
+using HeldInput = Computation;
+using Wheel = Computation;
 
 TEST_F(Gate, AnExceptionEndsInOneAlertAndTheProgramRunsOn) {
-  bench_->ControlOf<PushButton>("Go").SetCaption("Start");
+  Main().CalculateButton().SetCaption("Start");
   const std::pair<std::function<void()>, const char*> cases[] = {
       {[] { throw NilObjectException("It has gone."); }, "It has gone."},
       {[] { throw std::bad_alloc(); },
@@ -105,37 +68,37 @@ TEST_F(Gate, AnExceptionEndsInOneAlertAndTheProgramRunsOn) {
     ExpectDialog(ByKey(Qt::Key_Escape));
     Do(fault);
     EXPECT_EQ(TakeDialogs(), Log{"“Start” could not be carried out. " + std::string(reason)});
-    EXPECT_EQ(bench_->log.back(), "activate");
     user::Type("x");
+    EXPECT_EQ(Text("StartYearField"), "x");
   }
-  EXPECT_EQ(bench_->ControlOf<TextField>("Field").Text(), "xxxx");
 }
 
 TEST_F(Gate, ActivationComesAfterTheHandlerThatOpenedTheDialog) {
   ExpectDialog(ByButton());
   Do([this] {
+    Main().EndFundletField().SetText("until it is active");
     GlobalModule::AlertBox("one");
-    bench_->log.push_back("returned");
     ExpectDialog(ByCloseBox());
     GlobalModule::AlertBox("two");
-    bench_->log.push_back("end");
+    EXPECT_EQ(Text("EndFundletField"), "until it is active");
   });
-  EXPECT_EQ(bench_->log, (Log{"returned", "end", "activate"}));
+  EXPECT_EQ(Text("EndFundletField"), "100,000");
 }
 
 TEST_F(Gate, AWindowClosedDuringAComputationClosesAfterIt) {
   EXPECT_EQ(RunWith([this] { Compute([this] { Native()->close(); }); }), 0);
-  EXPECT_EQ(bench_->log, (Log{"begin", "end", "close"}));
+  EXPECT_EQ(log_, (Log{"begin", "end"}));
+  EXPECT_FALSE(Main().IsOpen());
 }
 
 TEST_F(Gate, AKeyHeldDownActsOnce) {
-  bench_->ControlOf<PushButton>("Go").Action = [this](PushButton&) { bench_->log.push_back("go"); };
+  Main().CalculateButton().Action = [this](PushButton&) { log_.push_back("go"); };
   for (const bool repeated : {false, true}) {
     QTest::simulateEvent(Native(), true, Qt::Key_Return, {}, "\r", repeated, -1);
     QTest::simulateEvent(Native(), true, Qt::Key_P, Qt::ControlModifier, {}, repeated, -1);
     user::Settle();
   }
-  EXPECT_EQ(bench_->log, (Log{"go", "shortcut"}));
+  EXPECT_EQ(log_, (Log{"go", "shortcut"}));
 }
 
 TEST_F(HeldInput, ComesAfterTheComputationInItsOrderAndNeverInsideIt) {
@@ -144,15 +107,13 @@ TEST_F(HeldInput, ComesAfterTheComputationInItsOrderAndNeverInsideIt) {
     QTest::keyClick(Native(), Qt::Key_Return);
     QTest::keyClick(Native(), Qt::Key_P, Qt::ControlModifier);
     QTest::mouseClick(Native(), Qt::LeftButton, {},
-                      Found("Other").mapTo(&bench_->Native(), QPoint(40, 10)));
+                      Found("SaveButton").mapTo(&Main().Native(), QPoint(40, 10)));
     QTest::keyClick(Native(), 'b');
-    EXPECT_EQ(bench_->ControlOf<TextField>("Field").Text(), "");
-    EXPECT_EQ(bench_->log, Log{"begin"});
+    EXPECT_EQ(log_, Log{"begin"});
   });
   EXPECT_FALSE(cancelled_);
-  const auto typed = [this] { return bench_->ControlOf<TextField>("Field").Text(); };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return typed() == "ab"; }));
-  EXPECT_EQ(bench_->log, (Log{"begin", "end", "begin", "end", "shortcut", "other"}));
+  EXPECT_TRUE(QTest::qWaitFor([] { return Text("StartYearField") == "ab"; }));
+  EXPECT_EQ(log_, (Log{"begin", "end", "begin", "end", "shortcut", "other"}));
 }
 
 TEST_F(HeldInput, AShortcutThatIsHeldDownActsOnce) {
@@ -163,7 +124,7 @@ TEST_F(HeldInput, AShortcutThatIsHeldDownActsOnce) {
     }
   });
   user::Settle();
-  EXPECT_EQ(bench_->log, (Log{"begin", "end", "shortcut"}));
+  EXPECT_EQ(log_, (Log{"begin", "end", "shortcut"}));
 }
 
 TEST_F(HeldInput, OnlyTheCancellingKeysCancelAndOnlyTheComputationThatRuns) {
@@ -181,7 +142,8 @@ TEST_F(HeldInput, OnlyTheCancellingKeysCancelAndOnlyTheComputationThatRuns) {
 }
 
 TEST_F(Wheel, TurnsWhileAComputationYields) {
-  QWidget& wheel = Found("Wheel");
+  QWidget& wheel = Found("Windmill");
+  Main().Windmill().SetVisible(true);
   const QImage before = wheel.grab().toImage();
   bool turned = false;
   Do([&] {
@@ -195,10 +157,11 @@ TEST_F(Wheel, TurnsWhileAComputationYields) {
 }
 
 TEST_F(Wheel, IsPaintedAwayBeforeAnythingElseHappens) {
-  auto& wheel = bench_->ControlOf<ProgressWheel>("Wheel");
-  const Paints paints(bench_->Native().Content());
-  wheel.SetVisible(false);
-  wheel.Refresh(true);
+  Main().Windmill().SetVisible(true);
+  user::Settle();
+  const Paints paints(Main().Native().Content());
+  Main().Windmill().SetVisible(false);
+  Main().Windmill().Refresh(true);
   EXPECT_EQ(paints.count, 1);
 }
 

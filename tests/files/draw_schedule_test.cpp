@@ -45,7 +45,7 @@ TEST(DrawSchedule, ReplacesAFileByTheParametersAndOneRowForEachYear) {
   EXPECT_EQ(folder.Read(name), kSampleSchedule);
 }
 
-TEST(DrawSchedule, EndsWithTheYearsLeftOrWithTheLastYearSolved) {
+TEST(DrawSchedule, ShowsTheParametersOfNowAboveTheBalancesOfTheLastSolveAndNoYearsBeyondIt) {
   const ScratchFolder folder;
   Plan plan = SolvedSample();
   for (const auto& [years_left, rows] : {std::pair{5, 4}, {127, 4}, {3, 3}, {0, 0}, {-128, 0}}) {
@@ -54,11 +54,7 @@ TEST(DrawSchedule, EndsWithTheYearsLeftOrWithTheLastYearSolved) {
     const std::string text = folder.Read("text");
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 10 + rows) << years_left;
   }
-}
-
-TEST(DrawSchedule, ShowsTheParametersOfNowAboveTheBalancesOfTheLastSolve) {
-  const ScratchFolder folder;
-  Plan plan = SolvedSample();
+  plan = SolvedSample();
   plan.StartFundlet = 7;
   plan.StartYear = 1999;
   plan.COLA = 0.02126;

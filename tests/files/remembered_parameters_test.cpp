@@ -22,7 +22,6 @@ TEST(SaveParameters, WritesTheTextsOverTheRecordAndKeepsWhatLiesBehind) {
   const ScratchFolder folder;
   folder.Write(kParametersFileName, std::string(44, 'x') + "tail");
   Plan plan;
-  plan.AnnualDraw = 7;
   TextForm form;
   form.texts = {"-1.5", "40", "200", "-0", "1,000", "-0", "1000", "1e3"};
   SaveParameters(plan, form);
@@ -30,7 +29,6 @@ TEST(SaveParameters, WritesTheTextsOverTheRecordAndKeepsWhatLiesBehind) {
                                                   kMinusZero + kThousand + kThousand + "tail");
   EXPECT_TRUE(form.actions.empty());
   EXPECT_EQ(plan.YearsLeft, 200);
-  EXPECT_EQ(plan.AnnualDraw, 7);
 }
 
 TEST(RestoreParameters, TakesEveryBitAndShowsThePlanBeforeItMovesTheFocus) {

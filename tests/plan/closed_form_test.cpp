@@ -19,36 +19,24 @@ Long Series(Long x, std::int64_t terms) {
   return sum;
 }
 
-// The final balance as a straight line: what the Fundlet grows to, less the slope for each dollar
-// that is drawn in the first year.
-struct Line {
-  Long grown;
-  Long slope;
-
-  explicit Line(const Plan& plan) {
-    const Long monthly = Long{plan.FundletAPR} / 12;
-    const Long yearly = std::pow(1 + monthly, 12);
-    const Long cola = 1 + Long{plan.COLA};
-    grown = plan.StartFundlet * std::pow(yearly, plan.YearsLeft);
-    slope = Series(1 + monthly, 12) / 12 * std::pow(cola, plan.YearsLeft - 1) *
-            Series(yearly / cola, plan.YearsLeft);
-  }
-  Long Final(const Plan& plan, double draw) const {
-    return grown + slope * (Long{plan.SocialSecurity} - draw);
-  }
-};
-
-// Compares one simulation with the closed form. The bound counts the roundings, five a month, one
-// a year in the power and a few around them, each of half a unit in the last place of at most the
-// sum of all that comes in and goes out.
+// Compares one simulation with the closed form: the final balance is what the Fundlet grows to,
+// less the slope for each dollar that is drawn in the first year. The bound counts the roundings,
+// five a month, one a year in the power and a few around them, each of half a unit in the last
+// place of at most the sum of all that comes in and goes out.
 void ExpectOnTheLine(Plan plan, double draw) {
   SizeArrays(plan);
   for (std::int64_t year = 1; year <= plan.YearsLeft; ++year) CalculateBalance(plan, year, draw);
-  const Line line(plan);
-  const Long turnover = line.grown + line.slope * (Long{plan.SocialSecurity} + std::fabs(draw));
+  const Long monthly = 1 + Long{plan.FundletAPR} / 12;
+  const Long yearly = std::pow(monthly, 12);
+  const Long cola = 1 + Long{plan.COLA};
+  const Long grown = plan.StartFundlet * std::pow(yearly, plan.YearsLeft);
+  const Long slope = Series(monthly, 12) / 12 * std::pow(cola, plan.YearsLeft - 1) *
+                     Series(yearly / cola, plan.YearsLeft);
+  const Long turnover = grown + slope * (Long{plan.SocialSecurity} + std::fabs(draw));
   const Long bound =
       (61 * plan.YearsLeft + 10) * turnover * std::numeric_limits<double>::epsilon() / 2;
-  ASSERT_LE(std::fabs(plan.Balance.back() - line.Final(plan, draw)), bound)
+  const Long exact = grown + slope * (Long{plan.SocialSecurity} - draw);
+  ASSERT_LE(std::fabs(plan.Balance.back() - exact), bound)
       << plan.YearsLeft << " years, COLA " << plan.COLA << ", APR " << plan.FundletAPR << ", draw "
       << draw;
 }

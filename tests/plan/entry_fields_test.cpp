@@ -11,29 +11,18 @@ namespace {
 
 using enum FocusCode;
 
-TEST(Reading, OfAWholeNumberTruncatesAndStopsAtAComma) {
+TEST(Reading, OfAWholeNumberTruncatesAndOnlyThatOfMoneyLeavesCommasOut) {
   EXPECT_EQ(IntegerReading("60.9"), 60);
-  EXPECT_EQ(IntegerReading("-0.9"), 0);
   EXPECT_EQ(IntegerReading("1,23"), 1);
-  for (const char* beyond : {"9223372036854775808", "-9223372036854775809", "1e999", "-1e999"}) {
-    EXPECT_EQ(IntegerReading(beyond), std::numeric_limits<std::int64_t>::min()) << beyond;
-  }
-}
-
-TEST(Reading, OfMoneyLeavesCommasOutAndOfAPercentageDoesNot) {
+  EXPECT_EQ(IntegerReading("1e999"), std::numeric_limits<std::int64_t>::min());
   EXPECT_EQ(CurrencyReading(",1,2,34.56,7"), 1234.567);
-  EXPECT_EQ(CurrencyReading("1e999"), std::numeric_limits<double>::infinity());
   EXPECT_EQ(PercentReading("2.035"), 2.035 / 100.0);
   EXPECT_EQ(PercentReading("1,5"), 0.01);
 }
 
 TEST(PastedEntry, IsTheNumberThatWasCopiedOrNothing) {
   constexpr const char* kRefused = "refused";
-  const struct {
-    FocusCode field;
-    std::size_t limit;
-    const char *pasted, *entry;
-  } cases[] = {
+  const std::tuple<FocusCode, std::size_t, const char*, const char*> cases[] = {
       {SocialSecurity, 6, "  25,000\r\n", "25,000"},
       {SocialSecurity, 6, "250,000", "250000"},
       {SocialSecurity, 6, "1,234,567", kRefused},
@@ -62,11 +51,7 @@ TEST(PastedEntry, IsTheNumberThatWasCopiedOrNothing) {
 }
 
 TEST(LeaveField, ShowsWhatWasReadAndTestsNoRange) {
-  const struct {
-    FocusCode field;
-    const char* typed;
-    const char* shown;
-  } cases[] = {
+  const std::tuple<FocusCode, const char*, const char*> cases[] = {
       {StartYear, "19.9", "19"},
       {StartAge, "", "0"},
       {YearsLeft, "-5", "-5"},
@@ -94,17 +79,16 @@ TEST(Refocus, ShowsAllParametersAndSelectsTheLastField) {
   TextForm form;
   ReadAllFields(plan, form);
   plan.COLA = 0.03125;
-  const std::vector<std::string> shown = {"text 1 2010",   "text 2 70",      "text 3 4",
-                                          "text 4 3.125",  "text 5 500,000", "text 6 5.0",
-                                          "text 7 20,000", "text 8 100,000"};
+  std::vector<std::string> shown = {"text 1 2010",   "text 2 70",      "text 3 4",
+                                    "text 4 3.125",  "text 5 500,000", "text 6 5.0",
+                                    "text 7 20,000", "text 8 100,000"};
   Refocus(plan, form);
   EXPECT_EQ(form.actions, shown) << "no field has had the focus yet";
   EnterField(plan, StartYear, form);
   form.actions.clear();
   Refocus(plan, form);
-  EXPECT_EQ(std::vector(form.actions.begin(), form.actions.begin() + 8), shown);
-  EXPECT_EQ(std::vector(form.actions.begin() + 8, form.actions.end()),
-            (std::vector<std::string>{"focus 1", "select 1"}));
+  shown.insert(shown.end(), {"focus 1", "select 1"});
+  EXPECT_EQ(form.actions, shown);
 }
 
 }  // namespace

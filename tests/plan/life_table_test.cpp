@@ -18,32 +18,28 @@ TEST(LifeTable, FallsWithEveryYearOfAge) {
   EXPECT_EQ(std::adjacent_find(alive.begin(), alive.end(), std::less_equal<>()), alive.end());
 }
 
-TEST(LifeTable, AsksForStrictlyFewerThanTheFraction) {
+TEST(LifeTable, GivesTheYearsUntilFewerThanTheFractionAreAlive) {
+  using Years = std::vector<std::int64_t>;
+  const std::pair<std::int64_t, Years> rows[] = {
+      {-1, {7, 7, 7}},     {0, {79, 87, 91}},     {52, {28, 36, 40}}, {70, {14, 19, 23}},
+      {92, {4, 6, 7}},     {93, {3, 6, 6}},       {95, {3, 4, 4}},    {99, {0, 0, 0}},
+      {100, {-1, -1, -1}}, {120, {-21, -21, -21}}};
+  for (const auto& [age, expected] : rows) {
+    Years years;
+    for (const double fraction : {0.5, 0.25, 0.125}) {
+      Plan plan;
+      FillSurviving(plan);
+      plan.StartAge = age;
+      plan.YearsLeft = 7;
+      CalculateSurvival(plan, fraction);
+      years.push_back(plan.YearsLeft);
+    }
+    EXPECT_EQ(years, expected) << age;
+  }
   Plan plan;
   plan.Surviving = {100, 50, 49, 1};
   CalculateSurvival(plan, 0.5);
-  EXPECT_EQ(plan.YearsLeft, 2);
-}
-
-TEST(LifeTable, GivesTheYearsUntilFewerThanTheFractionAreAlive) {
-  const std::int64_t rows[][4] = {
-      {52, 28, 36, 40}, {60, 21, 28, 32},     {65, 17, 24, 28}, {70, 14, 19, 23},
-      {75, 10, 15, 19}, {80, 8, 12, 15},      {85, 6, 9, 12},   {90, 4, 7, 9},
-      {92, 4, 6, 7},    {93, 3, 6, 6},        {95, 3, 4, 4},    {0, 79, 87, 91},
-      {99, 0, 0, 0},    {120, -21, -21, -21}, {-1, 7, 7, 7},    {100, -1, -1, -1}};
-  for (const auto& row : rows) {
-    const auto years = [&](double fraction) {
-      Plan plan;
-      FillSurviving(plan);
-      plan.StartAge = row[0];
-      plan.YearsLeft = 7;
-      CalculateSurvival(plan, fraction);
-      return plan.YearsLeft;
-    };
-    EXPECT_EQ(years(0.5), row[1]) << row[0];
-    EXPECT_EQ(years(0.25), row[2]) << row[0];
-    EXPECT_EQ(years(0.125), row[3]) << row[0];
-  }
+  EXPECT_EQ(plan.YearsLeft, 2) << "strictly fewer";
 }
 
 }  // namespace

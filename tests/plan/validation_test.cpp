@@ -12,15 +12,9 @@ namespace {
 
 using enum FocusCode;
 
-struct Refusal {
-  FocusCode field;
-  const char* text;
-  const char* forced;
-  const char* message;
-};
-
-// The form's other texts make a plan that passes: 70 years old, 4 years left, $500,000.
-const Refusal kRefusals[] = {
+// A field, what stands in it, what is put in its place, and why. The form's other texts make a plan
+// that passes: 70 years old, 4 years left, $500,000.
+const std::tuple<FocusCode, const char*, const char*, const char*> kRefusals[] = {
     {StartYear, "-1", "0", "Start year must be at least 0."},
     {StartYear, "1e99", "0", "Start year must be at least 0."},
     {StartAge, "51.9", "52", "Age must be at least 52 years old."},

@@ -12,13 +12,7 @@ namespace {
 class Help : public StartedTest {
  protected:
   static aHelpWindow& Window() { return *GlobalModule::HelpWindow; }
-  static int Showing() {
-    int showing = 0;
-    for (const QWidget* top : QApplication::topLevelWidgets()) {
-      showing += top->isVisible() && top->windowTitle() == "Fundlet Help" ? 1 : 0;
-    }
-    return showing;
-  }
+  static int Showing() { return VisibleWindows("Fundlet Help"); }
   static QRect Place(const char* control) { return Found(control).geometry(); }
 };
 

@@ -8,6 +8,25 @@
 namespace fundlet {
 namespace {
 
+constexpr const char* kTexts[] = {"5", "0", ".", ",", "-", "99.99", "12", "1e9", "x", "67"};
+constexpr Qt::Key kKeys[] = {Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Backspace, Qt::Key_Return,
+                             Qt::Key_Space, Qt::Key_Escape, Qt::Key_Left,      Qt::Key_Delete};
+constexpr std::string_view kLetters = "SPRZXCVAE248";
+constexpr std::pair<const char*, const char*> kItems[] = {{"File", "Save Schedule"},
+                                                          {"File", "Remember Parameters"},
+                                                          {"File", "Recall Parameters"},
+                                                          {"File", "About Fundlet…"},
+                                                          {"Edit", "Undo"},
+                                                          {"Edit", "Cut"},
+                                                          {"Edit", "Copy"},
+                                                          {"Edit", "Paste"},
+                                                          {"Edit", "Clear"},
+                                                          {"Help", "Fundlet Help…"},
+                                                          {"Help", "Fundlet Help…"}};
+constexpr const char* kControls[] = {"StartAgeField",   "YearsLeftField",  "FundletAPRField",
+                                     "EndFundletField", "CalculateButton", "PrintButton",
+                                     "SaveButton",      "RestoreButton",   "AnnualDrawField"};
+
 class RandomWalk : public StartedTest {
  protected:
   int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
@@ -20,38 +39,6 @@ class RandomWalk : public StartedTest {
     return QApplication::activeWindow()->windowTitle() == "Fundlet Help";
   }
 
-  void TypeSomething() {
-    constexpr const char* kTexts[] = {"5", "0", ".", ",", "-", "99.99", "12", "1e9", "x", "67"};
-    user::Type(OneOf(kTexts));
-  }
-  void PressKey() {
-    constexpr Qt::Key kKeys[] = {Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Backspace, Qt::Key_Return,
-                                 Qt::Key_Space, Qt::Key_Escape, Qt::Key_Left,      Qt::Key_Delete};
-    user::Key(OneOf(kKeys));
-  }
-  void PressShortcut() {
-    constexpr char kLetters[] = {'S', 'P', 'R', 'Z', 'X', 'C', 'V', 'A', 'E', '2', '4', '8'};
-    user::Key(static_cast<Qt::Key>(OneOf(kLetters)), Qt::ControlModifier);
-  }
-  void ChooseItem() {
-    constexpr const char* kFile[] = {"Save Schedule", "Remember Parameters", "Recall Parameters",
-                                     "About Fundlet…"};
-    constexpr const char* kEdit[] = {"Undo", "Cut", "Copy", "Paste", "Clear"};
-    switch (Below(3)) {
-      case 0:
-        return user::Choose("File", OneOf(kFile));
-      case 1:
-        return user::Choose("Edit", OneOf(kEdit));
-      default:
-        return user::Choose("Help", "Fundlet Help…");
-    }
-  }
-  void ClickSomewhere() {
-    constexpr const char* kControls[] = {"StartAgeField",   "YearsLeftField",  "FundletAPRField",
-                                         "EndFundletField", "CalculateButton", "PrintButton",
-                                         "SaveButton",      "RestoreButton",   "AnnualDrawField"};
-    user::Click(Found(OneOf(kControls)));
-  }
   void SwitchWindow() {
     if (GlobalModule::HelpShowing && Below(2) == 0) {
       user::CloseBox(GlobalModule::HelpWindow->Native());
@@ -61,20 +48,19 @@ class RandomWalk : public StartedTest {
   }
   void TypeAPlanThatPasses() {
     if (HelpInFront()) return;
-    const char* plan[] = {"2020", "60", "20", "2", "500000", "5", "1000", "0"};
-    Fill("StartYearField", plan[0]);
-    for (int field = 1; field < 8; ++field) {
+    Fill("StartYearField", "");
+    for (const char* text : {"2020", "60", "20", "2", "500000", "5", "1000", "0"}) {
+      user::Type(text);
       user::Key(Qt::Key_Tab);
-      user::Type(plan[field]);
     }
   }
   void Step() {
     const int kind = Below(20);
-    if (kind < 6) return TypeSomething();
-    if (kind < 11) return PressKey();
-    if (kind < 14) return PressShortcut();
-    if (kind < 16) return ChooseItem();
-    if (kind < 18) return ClickSomewhere();
+    if (kind < 6) return user::Type(OneOf(kTexts));
+    if (kind < 11) return user::Key(OneOf(kKeys));
+    if (kind < 14) return user::Shortcut(static_cast<Qt::Key>(OneOf(kLetters)));
+    if (kind < 16) return std::apply([](auto... names) { user::Choose(names...); }, OneOf(kItems));
+    if (kind < 18) return user::Click(Found(OneOf(kControls)));
     return kind == 18 ? SwitchWindow() : TypeAPlanThatPasses();
   }
   void AnswerAnyDialog() {
@@ -89,11 +75,7 @@ class RandomWalk : public StartedTest {
   void Check() {
     const Plan& plan = ThePlan();
     ASSERT_FALSE(plan.Balance.empty() || plan.Drawing.empty() || plan.Surviving.empty());
-    int help_windows = 0;
-    for (const QWidget* top : QApplication::topLevelWidgets()) {
-      help_windows += top->isVisible() && top->windowTitle() == "Fundlet Help" ? 1 : 0;
-    }
-    ASSERT_EQ(help_windows, GlobalModule::HelpShowing ? 1 : 0);
+    ASSERT_EQ(VisibleWindows("Fundlet Help"), GlobalModule::HelpShowing ? 1 : 0);
     ASSERT_EQ(Main().PrintButton().Enabled(), plan.OKtoPrint);
     if (!HelpInFront()) {
       Main().EnableMenuItems();

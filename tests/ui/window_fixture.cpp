@@ -132,6 +132,13 @@ void Choose(const QString& menu, const QString& item, const QString& subitem) {
 
 }  // namespace user
 
+int VisibleWindows(const QString& title) {
+  const QWidgetList tops = QApplication::topLevelWidgets();
+  return static_cast<int>(std::count_if(tops.begin(), tops.end(), [&](const QWidget* top) {
+    return top->isVisible() && top->windowTitle() == title;
+  }));
+}
+
 std::string FocusName() {
   const QWidget* widget = QApplication::focusWidget();
   return widget != nullptr ? widget->objectName().toStdString() : "";

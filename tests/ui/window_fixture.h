@@ -66,6 +66,7 @@ struct Paints : QObject {
   }
   int count = 0;
 };
+int VisibleWindows(const QString& title);
 std::string FocusName();  // the object name of the widget that has the focus, empty for none
 
 // How a person answers a dialog.
