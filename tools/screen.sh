@@ -1,6 +1,24 @@
 # shellcheck shell=bash
 # To be sourced. A virtual screen with a window manager, and a person at its keyboard.
 
+wrong() {
+  echo "$(basename "$0"): $*" >&2
+  exit 1
+}
+
+# A test that is left out.
+skip() {
+  echo "Skipped: $*"
+  exit 77
+}
+
+need() {
+  local command
+  for command in "$@"; do
+    command -v "$command" >/dev/null || skip "$command is not installed."
+  done
+}
+
 screen_folder=
 screen_processes=()
 
@@ -27,12 +45,12 @@ open_screen() {
   Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
     3>"$screen_folder/display" 2>"$screen_folder/Xvfb.log" &
   screen_processes+=($!)
-  wait_for 20 test -s "$screen_folder/display" || return 1
+  wait_for 20 test -s "$screen_folder/display" || wrong 'the virtual screen did not open'
   DISPLAY=:$(cat "$screen_folder/display")
   export DISPLAY
   openbox >"$screen_folder/openbox.log" 2>&1 &
   screen_processes+=($!)
-  wait_for 20 xdotool get_desktop || return 1
+  wait_for 20 xdotool get_desktop || wrong 'the window manager did not start'
   open_bus
 }
 
@@ -44,20 +62,20 @@ open_bus() {
   dbus-daemon --session --nofork --nopidfile --address="unix:path=${bus// /%20}" \
     2>"$screen_folder/bus.log" &
   screen_processes+=($!)
-  wait_for 20 test -S "$bus" || return 1
+  wait_for 20 test -S "$bus" || wrong 'the session bus did not start'
   export DBUS_SESSION_BUS_ADDRESS=unix:path=${bus// /%20}
 }
 
 # Opens a Wayland desktop that fills such a screen, and lets the programs frame their windows.
 open_wayland() {
-  open_screen "$1" || return 1
+  open_screen "$1"
   printf '%s\n' '[shell]' panel-position=none close-animation=none startup-animation=none \
     '[input-method]' path= '[keyboard]' repeat-rate=0 >"$screen_folder/weston.ini"
   weston --backend=x11-backend.so --use-pixman --fullscreen --width="${1%x*}" --height="${1#*x}" \
     --socket=wayland-test --idle-time=0 --debug --config="$screen_folder/weston.ini" --log="$screen_folder/weston.log" >/dev/null 2>&1 &
   screen_processes+=($!)
   export WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland
-  wait_for 20 weston-debug scene-graph || return 1
+  wait_for 20 weston-debug scene-graph || wrong 'the Wayland desktop did not open'
   # It follows the pointer's way and not its place, until the pointer has been in a corner.
   xdotool mousemove 4000 4000 sleep 0.5 mousemove 0 0 sleep 0.5
 }

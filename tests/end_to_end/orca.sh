@@ -5,11 +5,7 @@ program=$1
 . "$(dirname "$0")/../../tools/screen.sh"
 
 launcher=/usr/libexec/at-spi-bus-launcher
-for command in Xvfb openbox xdotool dbus-daemon script orca speech-dispatcher "$launcher"; do
-  command -v "$command" >/dev/null && continue
-  echo "Skipped: $command is not installed."
-  exit 77
-done
+need Xvfb openbox xdotool dbus-daemon script orca speech-dispatcher "$launcher"
 
 from=0  # the lines of the log before the last key
 heard() { tail -n "+$((from + 1))" "$log" | sed -n "s/.*SPEECH OUTPUT: '\([^']*\)'.*/\1/p" | tr '\n' ' '; }

@@ -2,23 +2,6 @@
 # To be sourced, with the folder of the sources in $source.
 . "$source/tools/screen.sh"
 
-wrong() {
-  echo "$(basename "$0"): $*" >&2
-  exit 1
-}
-
-skip() {
-  echo "Skipped: $*"
-  exit 77
-}
-
-need() {
-  local command
-  for command in "$@"; do
-    command -v "$command" >/dev/null || skip "$command is not installed."
-  done
-}
-
 # desktop_entry_value FILE KEY
 desktop_entry_value() { sed -n "s/^$2=//p" "$1"; }
 

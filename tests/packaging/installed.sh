@@ -35,5 +35,5 @@ remarks=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -T
   "$share/man/man1/fundlet.1" 2>&1 >/dev/null)
 [ -z "$remarks" ] || wrong "manual page: $remarks"
 
-open_screen 1024x640 || wrong 'the virtual screen did not open'
+open_screen 1024x640
 start_and_quit "$entry" "$folder/prefix/bin/$(desktop_entry_value "$entry" Exec)"

@@ -7,7 +7,7 @@ folder=$2
 . "$source/tests/packaging/helpers.sh"
 need debootstrap Xvfb openbox xdotool xprop
 [ "$(id -u)" -eq 0 ] || skip 'only root can make a fresh root.'
-[ -d "$folder/unpacked" ] || skip 'the package has not been built.'
+[ -s "$folder/lintian.log" ] || skip 'the package has not been built.'
 . /etc/os-release
 [ "$ID" = debian ] || skip 'debootstrap makes no root of this system.'
 
@@ -25,7 +25,7 @@ apt_in_root() {
 cp "$folder"/*.deb "$root/fundlet.deb"
 apt_in_root install --no-install-recommends /fundlet.deb
 files=$("${in_root[@]}" dpkg -L fundlet)
-open_screen 1024x640 || wrong 'the virtual screen did not open'
+open_screen 1024x640
 start_and_quit "$root/usr/share/applications/fundlet.desktop" \
   "${in_root[@]}" DISPLAY="$DISPLAY" fundlet
 [ -s "$root/root/.config/Fundlet.Preferences" ] || wrong 'no parameters in ~/.config'
