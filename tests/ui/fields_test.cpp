@@ -14,20 +14,13 @@ using Fields = StartedTest;
 TEST_F(Fields, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
   Fill("StartAgeField", "60");
   user::Shortcut(Qt::Key_P);
-  const struct {
-    const char *field, *typed, *message, *forced;
-    Answer answer;
-  } refusals[] = {
-      {"StartAgeField", "51", "Age must be at least 52 years old.", "52", ByKey(Qt::Key_Escape)},
-      {"YearsLeftField", "40", "Age plus life expectancy must be less than 100 years.", "39",
-       ByKey(Qt::Key_Return)},
-      {"COLAField", "100", "COLA (Annual Cost of Living Adjustment) must be less than 100%.",
-       "99.99", ByButton()},
-      {"EndFundletField", "1000001", "Terminal fundlet must be no more than the initial fundlet.",
-       "0", ByCloseBox()},
+  const std::tuple<const char*, const char*, const char*, Answer> refusals[] = {
+      {"StartAgeField", "51", "52", ByKey(Qt::Key_Escape)},
+      {"YearsLeftField", "40", "39", ByKey(Qt::Key_Return)},
+      {"COLAField", "100", "99.99", ByButton()},
+      {"EndFundletField", "1000001", "0", ByCloseBox()},
   };
-  for (const auto& [field, typed, message, forced, answer] : refusals) {
-    SCOPED_TRACE(message);
+  for (const auto& [field, typed, forced, answer] : refusals) {
     user::Shortcut(Qt::Key_R);
     Fill(field, typed);
     ExpectDialog([&answer = answer](QWidget& dialog) {
@@ -35,7 +28,6 @@ TEST_F(Fields, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
       answer(dialog);
     });
     Calculate();
-    EXPECT_EQ(TakeDialogs(), std::vector<std::string>{message});
     EXPECT_EQ(FocusName(), field);
     EXPECT_EQ(Selected(field), forced);
     EXPECT_EQ(Result(), "Initial Year Draw:  $0");
@@ -120,21 +112,17 @@ TEST_F(Fields, AClickSelectsTheWholeTextAndTheNextOnePlacesTheCaret) {
 TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
   const auto check = [](auto& control) {
     control.SetText("a😀b😀");
-    control.SetSelStart(1);
-    control.SetSelLength(2);
-    EXPECT_EQ(control.SelStart(), 1);
-    EXPECT_EQ(control.SelLength(), 2);
+    control.SetSelStart(2);
     control.SetSelLength(99);
-    EXPECT_EQ(control.SelLength(), 3);
-    control.SetSelStart(4);
-    EXPECT_EQ(control.SelStart(), 4);
-    EXPECT_EQ(control.SelLength(), 0);
+    EXPECT_EQ(control.SelStart(), 2);
+    EXPECT_EQ(control.SelLength(), 2);
+    control.SetSelStart(1);
+    control.SetSelLength(1);
+    EXPECT_EQ(control.SelLength(), 1);
   };
   check(Main().COLAField());
   Main().COLAField().SetFocus();
   check(Main().COLAField());
-  Main().COLAField().SetSelStart(1);
-  Main().COLAField().SetSelLength(1);
   EXPECT_EQ(Selected("COLAField"), "😀");
   user::Key(Qt::Key_F1);
   check(GlobalModule::HelpWindow->TextField());

@@ -12,17 +12,16 @@ constexpr const char* kTexts[] = {"5", "0", ".", ",", "-", "99.99", "12", "1e9",
 constexpr Qt::Key kKeys[] = {Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Backspace, Qt::Key_Return,
                              Qt::Key_Space, Qt::Key_Escape, Qt::Key_Left,      Qt::Key_Delete};
 constexpr std::string_view kLetters = "SPRZXCVAE248";
-constexpr std::pair<const char*, const char*> kItems[] = {{"File", "Save Schedule"},
-                                                          {"File", "Remember Parameters"},
-                                                          {"File", "Recall Parameters"},
-                                                          {"File", "About Fundlet…"},
-                                                          {"Edit", "Undo"},
-                                                          {"Edit", "Cut"},
-                                                          {"Edit", "Copy"},
-                                                          {"Edit", "Paste"},
-                                                          {"Edit", "Clear"},
-                                                          {"Help", "Fundlet Help…"},
-                                                          {"Help", "Fundlet Help…"}};
+constexpr const char* kItems[] = {"Save Schedule",
+                                  "Remember Parameters",
+                                  "Recall Parameters",
+                                  "About Fundlet…",
+                                  "Undo",
+                                  "Cut",
+                                  "Copy",
+                                  "Paste",
+                                  "Clear",
+                                  "Fundlet Help…"};
 constexpr const char* kControls[] = {"StartAgeField",   "YearsLeftField",  "FundletAPRField",
                                      "EndFundletField", "CalculateButton", "PrintButton",
                                      "SaveButton",      "RestoreButton",   "AnnualDrawField"};
@@ -54,12 +53,15 @@ class RandomWalk : public StartedTest {
       user::Key(Qt::Key_Tab);
     }
   }
+  static void ChooseItem(int item) {
+    user::Choose(item < 4 ? "File" : item < 9 ? "Edit" : "Help", kItems[item]);
+  }
   void Step() {
     const int kind = Below(20);
     if (kind < 6) return user::Type(OneOf(kTexts));
     if (kind < 11) return user::Key(OneOf(kKeys));
     if (kind < 14) return user::Shortcut(static_cast<Qt::Key>(OneOf(kLetters)));
-    if (kind < 16) return std::apply([](auto... names) { user::Choose(names...); }, OneOf(kItems));
+    if (kind < 16) return ChooseItem(Below(std::size(kItems)));
     if (kind < 18) return user::Click(Found(OneOf(kControls)));
     return kind == 18 ? SwitchWindow() : TypeAPlanThatPasses();
   }
@@ -104,10 +106,6 @@ TEST_F(RandomWalk, LeavesTheProgramWholeAfterEveryStep) {
   EXPECT_GT(solved, 100);
   EXPECT_GT(saved_, 0);
   ForgetExpected();
-  if (GlobalModule::HelpShowing) user::CloseBox(GlobalModule::HelpWindow->Native());
-  TypeAPlanThatPasses();
-  Calculate();
-  EXPECT_TRUE(ThePlan().OKtoPrint);
 }
 
 }  // namespace
