@@ -145,15 +145,12 @@ TEST_F(Wheel, TurnsWhileAComputationYields) {
   QWidget& wheel = Found("Windmill");
   Main().Windmill().SetVisible(true);
   const QImage before = wheel.grab().toImage();
-  bool turned = false;
+  const auto turned = [&] { return wheel.grab().toImage() != before; };
   Do([&] {
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [&] { turned = wheel.grab().toImage() != before; });
-    look.start(5);
-    QDeadlineTimer patience(20'000);
-    while (!turned && !patience.hasExpired()) RuntimeBackgroundTask();
+    const QDeadlineTimer patience(20'000);
+    while (!turned() && !patience.hasExpired()) RuntimeBackgroundTask();
   });
-  EXPECT_TRUE(turned);
+  EXPECT_TRUE(turned());
 }
 
 TEST_F(Wheel, IsPaintedAwayBeforeAnythingElseHappens) {

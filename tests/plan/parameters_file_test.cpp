@@ -21,28 +21,27 @@ const Texts kShownRecord = {"1998", "40", "-3", "2.0", "1,000,000", "5.0", "20,0
 const Texts kZeros = {"0", "0", "0", "0.0", "0", "0.0", "0", "0"};
 const Texts kBusy = {"File “Fundlet.Preferences” is busy."};
 
-Texts AlertsOfStart(Plan& plan) {
+struct Started {
+  Plan plan;
   Texts alerts;
-  StartParameters(plan, [&](const std::string& message) { alerts.push_back(message); });
-  return alerts;
-}
+  Texts shown;
 
-Texts Shown(const Plan& plan) {
-  Texts texts;
-  for (const FocusCode field : kFocusCodes) texts.push_back(ShownText(plan, field));
-  return texts;
-}
+  Started() {
+    StartParameters(plan, [this](const std::string& message) { alerts.push_back(message); });
+    for (const FocusCode field : kFocusCodes) shown.push_back(ShownText(plan, field));
+  }
+};
 
 TEST(StartParameters, RemembersTheDefaultsAtTheFirstRun) {
   const ScratchFolder folder;
   setenv("TZ", "UTC", 1);
   const auto today = floor<std::chrono::days>(std::chrono::system_clock::now());
   const int year = static_cast<int>(std::chrono::year_month_day(today).year());
-  Plan plan;
-  EXPECT_EQ(AlertsOfStart(plan), Texts());
+  const Started started;
+  EXPECT_EQ(started.alerts, Texts());
   Texts defaults = kShownRecord;
   defaults[0] = std::to_string(year), defaults[1] = "65", defaults[2] = "27";
-  EXPECT_EQ(Shown(plan), defaults);
+  EXPECT_EQ(started.shown, defaults);
   std::string record = kRecord;
   record[0] = static_cast<char>(year / 256), record[1] = static_cast<char>(year % 256);
   record[2] = 65, record[3] = 27;
@@ -55,13 +54,13 @@ TEST(StartParameters, TakesWhatTheFileHoldsUpToItsEndAndLeavesTheFile) {
     const ScratchFolder folder;
     const std::string file = (kRecord + "behind").substr(0, length);
     folder.Write(kParametersFileName, file);
-    Plan plan;
-    EXPECT_EQ(AlertsOfStart(plan), length < 44 ? kBusy : Texts()) << length;
+    const Started started;
+    EXPECT_EQ(started.alerts, length < 44 ? kBusy : Texts()) << length;
     Texts expected = kShownRecord;
     for (std::size_t at = 0; at < 8; ++at) {
       if (ends[at] > length) expected[at] = kZeros[at];
     }
-    EXPECT_EQ(Shown(plan), expected) << length;
+    EXPECT_EQ(started.shown, expected) << length;
     EXPECT_EQ(folder.Read(kParametersFileName), file);
   }
 }
@@ -74,9 +73,9 @@ TEST(StartParameters, StartsWithZerosWhereTheFileCannotBeOpened) {
     fs::permissions(file, fs::perms{mode});
     // And at last a folder in its place.
     if (mode == 0111) fs::remove(file), fs::create_directory(file);
-    Plan plan;
-    EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << std::oct << mode;
-    EXPECT_EQ(Shown(plan), kZeros);
+    const Started started = (OrdinaryUser(), Started());
+    EXPECT_EQ(started.alerts, kBusy) << std::oct << mode;
+    EXPECT_EQ(started.shown, kZeros);
   }
 }
 
@@ -90,11 +89,9 @@ TEST(StartParameters, StartsWithTheDefaultsWhereTheFileCannotBeMadeOrSeen) {
   unsetenv("HOME");
   for (const std::string place : {"sealed", "sealed/folder", "file/folder", "no home", "closed"}) {
     setenv("XDG_CONFIG_HOME", place == "no home" ? "" : (folder.Path() / place).c_str(), 1);
-    const OrdinaryUser user;
-    Plan plan;
-    EXPECT_EQ(AlertsOfStart(plan), kBusy) << place;
-    EXPECT_EQ(plan.StartAge, 65);
-    EXPECT_EQ(plan.EndFundlet, 100000);
+    const Started started = (OrdinaryUser(), Started());
+    EXPECT_EQ(started.alerts, kBusy) << place;
+    EXPECT_EQ(started.plan.EndFundlet, 100000);
   }
   fs::permissions(folder.Path() / "closed", fs::perms::all);
   EXPECT_EQ(folder.Read(std::string("closed/") + kParametersFileName), kRecord);

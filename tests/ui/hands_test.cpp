@@ -25,24 +25,17 @@ class Hand : public StartedTest {
     QGuiApplication::clipboard()->setText(text);
     user::Shortcut(Qt::Key_V);
   }
-  static void Repeat(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
+  // A repetition. Where it is not told as one, the toolkit takes its halves for a release and a
+  // press of their own.
+  static void Repeat(QWidget& window, Qt::Key key, bool told, Qt::KeyboardModifiers modifiers = {},
                      const QString& text = "") {
     for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-      QKeyEvent event(type, key, modifiers, text, true);
+      QKeyEvent event(type, key, modifiers, told ? 0 : 36, 0, 0, text, told);
+      event.setTimestamp(5);
       QCoreApplication::sendEvent(window.windowHandle(), &event);
     }
   }
 };
-
-// A repetition whose halves the toolkit takes for a release and a press of their own.
-void RepeatUntold(QWidget& window, Qt::Key key) {
-  constexpr quint32 kScanCode = 36;
-  for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-    QKeyEvent event(type, key, {}, kScanCode, 0, 0);
-    event.setTimestamp(5);
-    QCoreApplication::sendEvent(window.windowHandle(), &event);
-  }
-}
 
 using ASmallScreen = FundletTest;
 
@@ -84,7 +77,7 @@ TEST_F(Hand, APasteGoesInWholeOrNotAtAllByEveryRoad) {
   EXPECT_EQ(Text("StartFundletField"), "1000000000");
   user::Replace("");
   Paste("250");
-  Repeat(Main().Native(), Qt::Key_V, Qt::ControlModifier);
+  Repeat(Main().Native(), Qt::Key_V, true, Qt::ControlModifier);
   EXPECT_EQ(Text("StartFundletField"), "250");
 }
 
@@ -154,8 +147,7 @@ TEST_F(Hand, ATextWithoutTheFocusIsSeenFromItsHead) {
 TEST_F(Hand, ThatHoldsAKeyAnswersNoDialogButStillTypesAName) {
   const Answer only_by_a_fresh_key = [](QWidget& dialog) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_O, Qt::Key_Space}) {
-      Repeat(dialog, key);
-      RepeatUntold(dialog, key);
+      for (const bool told : {true, false}) Repeat(dialog, key, told);
       EXPECT_TRUE(dialog.isVisible()) << key;
     }
     ByKey(Qt::Key_Escape)(dialog);
@@ -168,7 +160,7 @@ TEST_F(Hand, ThatHoldsAKeyAnswersNoDialogButStillTypesAName) {
     auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
     name->setFocus();
     name->clear();
-    Repeat(dialog, Qt::Key_X, {}, "x");
+    Repeat(dialog, Qt::Key_X, true, {}, "x");
     EXPECT_EQ(name->text(), "x");
     if (QWidget* completer = QApplication::activePopupWidget()) completer->hide();
     only_by_a_fresh_key(dialog);

@@ -4,8 +4,12 @@
 #include <string_view>
 
 #include "plan/entry_fields.h"
+#include "plan/parameters_file.h"
+#include "plan/validation.h"
 #include "services/format.h"
 #include "services/text.h"
+#include "tests/plan/text_form.h"
+#include "tests/services/scratch_folder.h"
 
 namespace fundlet {
 namespace {
@@ -38,11 +42,30 @@ void TryNumber(double number) {
   }
 }
 
+// Any file starts the program; one that is long enough is remembered again byte for byte.
+void TryFile(const std::string& file) {
+  static const ScratchFolder folder;
+  folder.Write(kParametersFileName, file);
+  Plan plan;
+  bool reported = false;
+  StartParameters(plan, [&](const std::string&) { reported = true; });
+  Require(reported == (file.size() < 44));
+  if (!reported) {
+    BinaryStream stream = BinaryStream::Open(ParametersFile());
+    WriteParameters(stream, plan);
+  }
+  Require(folder.Read(kParametersFileName) == file);
+  TextForm form;
+  DisplayParameters(plan, form);
+  ErrorDetected(plan, form);
+}
+
 }  // namespace
 }  // namespace fundlet
 
 extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t count) {
   fundlet::TryText({bytes, count});
+  fundlet::TryFile({bytes, count});
   double number = 0;
   if (count >= sizeof number) std::memcpy(&number, bytes, sizeof number);
   if (!std::isnan(number)) fundlet::TryNumber(number);
