@@ -162,7 +162,7 @@ TEST_F(Commands, EachWayToCloseEndsTheProgramAlsoWithHelpOrAMessageOpen) {
   };
   for (const Way& ending : endings) {
     EXPECT_EQ(RunWith(ending), 0);
-    EndProgram();
+    End();
     Start();
   }
 }

@@ -94,7 +94,7 @@ TEST_F(Legibility, HasRoomForEveryTextInAnySystemFontAndScale) {
         EXPECT_FALSE(text.isEmpty()) << row.name;
       }
     });
-    EndProgram();
+    End();
   }
 }
 

@@ -125,7 +125,7 @@ TEST_F(AStart, GoesOnAfterAFileThatCannotBeReadAndLeavesItAlone) {
     user::Key(Qt::Key_Tab);
     EXPECT_EQ(Text("StartYearField"), "2010");
     EXPECT_EQ(folder_.Read(kFile), bytes);
-    EndProgram();
+    End();
   }
 }
 
@@ -141,7 +141,7 @@ TEST_F(AStart, TakesNumbersThatAreNoneAndCalculatesOrRefuses) {
     if (!told) ForgetExpected();
     EXPECT_NE(told, ThePlan().OKtoPrint);
     EXPECT_EQ(folder_.Read(kFile), record);
-    EndProgram();
+    End();
   }
 }
 

@@ -168,39 +168,42 @@ Answer BySaving(const std::string& path) {
   };
 }
 
-DesktopTest::DesktopTest() {
+FundletTest::FundletTest() {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   setenv("HOME", folder_.Path().c_str(), 1);
 }
 
-DesktopTest::~DesktopTest() {
+FundletTest::~FundletTest() {
   EXPECT_TRUE(expected_.empty()) << "an expected dialog was not shown";
   End();
 }
 
-void DesktopTest::End() {
-  watchdog_.reset();
-  runtime_.reset();
-}
-
-void DesktopTest::StartWith(const std::function<void()>& late) {
+void FundletTest::Start(const QString& system_font) {
+  GlobalModule::Initialise();
   runtime_.emplace("fundlet");
   runtime_->Start(&MyApplication::_EarlyStartup, [&] {
     watchdog_ = std::make_unique<QObject>();
     Watch();
-    late();
+    if (!system_font.isEmpty()) QApplication::setFont(QFont(system_font));
+    MyApplication::_LateStartup();
   });
   user::Settle();
 }
 
-int DesktopTest::RunWith(const std::function<void()>& action) {
+void FundletTest::End() {
+  GlobalModule::Release();
+  watchdog_.reset();
+  runtime_.reset();
+}
+
+int FundletTest::RunWith(const std::function<void()>& action) {
   QTimer::singleShot(0, watchdog_.get(), action);
   return runtime_->Run();
 }
 
-std::vector<std::string> DesktopTest::TakeDialogs() { return std::exchange(shown_, {}); }
+std::vector<std::string> FundletTest::TakeDialogs() { return std::exchange(shown_, {}); }
 
-void DesktopTest::Watch() {
+void FundletTest::Watch() {
   // Before anything else, so that it goes on while an answer runs an event loop of its own.
   QTimer::singleShot(2, watchdog_.get(), [this] { Watch(); });
   QWidget* dialog = QApplication::activeWindow();
@@ -210,7 +213,7 @@ void DesktopTest::Watch() {
   handled_ = before;
 }
 
-void DesktopTest::Handle(QWidget& dialog) {
+void FundletTest::Handle(QWidget& dialog) {
   const auto* box = qobject_cast<QMessageBox*>(&dialog);
   const QString text = box != nullptr ? box->text() + box->informativeText() : dialog.windowTitle();
   shown_.push_back(text.toStdString());
@@ -222,19 +225,6 @@ void DesktopTest::Handle(QWidget& dialog) {
   const Answer answer = std::move(expected_.front());
   expected_.pop_front();
   answer(dialog);
-}
-
-void FundletTest::Start(const QString& system_font) {
-  GlobalModule::Initialise();
-  StartWith([&] {
-    if (!system_font.isEmpty()) QApplication::setFont(QFont(system_font));
-    MyApplication::_LateStartup();
-  });
-}
-
-void FundletTest::EndProgram() {
-  GlobalModule::Release();
-  End();
 }
 
 void FundletTest::Fill(const QString& field, const std::string& text) {

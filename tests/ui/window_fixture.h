@@ -76,40 +76,20 @@ Answer ByButton();  // a click on its default button
 Answer ByCloseBox();
 Answer BySaving(const std::string& path);  // in the save dialog: pastes the path, presses Return
 
-// A desktop that starts and ends with each test, with a preferences folder of its own. A dialog
-// that no test expects is closed and fails the test.
-class DesktopTest : public ::testing::Test {
+// The program on a desktop of its own, with a preferences folder of its own. A dialog that no test
+// expects is closed and fails the test.
+class FundletTest : public ::testing::Test {
  protected:
-  DesktopTest();
-  ~DesktopTest() override;
+  FundletTest();
+  ~FundletTest() override;
 
-  void StartWith(const std::function<void()>& late);
+  void Start(const QString& system_font = "");
   // Runs the event loop with the action as its first event, until Quit; gives the exit status.
   int RunWith(const std::function<void()>& action);
   void End();  // ends the run; the preferences folder stays
   void ExpectDialog(Answer answer) { expected_.push_back(std::move(answer)); }
   void ForgetExpected() { expected_.clear(); }
   std::vector<std::string> TakeDialogs();  // the texts of those shown since the last call
-
-  ScratchFolder folder_;
-
- private:
-  void Watch();
-  void Handle(QWidget& dialog);
-
-  std::optional<Runtime> runtime_;
-  std::unique_ptr<QObject> watchdog_;
-  std::deque<Answer> expected_;
-  std::vector<std::string> shown_;
-  QWidget* handled_ = nullptr;
-};
-
-// The program itself.
-class FundletTest : public DesktopTest {
- protected:
-  ~FundletTest() override { EndProgram(); }
-  void Start(const QString& system_font = "");
-  void EndProgram();
 
   static aFundletWindow& Main() { return aFundletWindow::Instance(); }
   static Plan& ThePlan() { return Main().ThePlan(); }
@@ -124,6 +104,18 @@ class FundletTest : public DesktopTest {
   static void Fill(const QString& field, const std::string& text);
   static void Calculate() { user::Key(Qt::Key_Return); }
   void CalculateRefused(Answer answer = ByKey(Qt::Key_Escape));  // for an age of 51 years
+
+  ScratchFolder folder_;
+
+ private:
+  void Watch();
+  void Handle(QWidget& dialog);
+
+  std::optional<Runtime> runtime_;
+  std::unique_ptr<QObject> watchdog_;
+  std::deque<Answer> expected_;
+  std::vector<std::string> shown_;
+  QWidget* handled_ = nullptr;
 };
 
 // A program already started, with the defaults.
