@@ -1,3 +1,7 @@
+#include <QAccessible>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMimeData>
 #include <QToolTip>
 
 #include "desktop/text_area.h"
@@ -8,6 +12,32 @@
 
 namespace fundlet {
 namespace {
+
+class Hand : public StartedTest {
+ protected:
+  static void Drop(QWidget& widget, const QString& text) {
+    QMimeData data;
+    data.setText(text);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    if (enter.isAccepted()) QCoreApplication::sendEvent(&widget, &drop);
+  }
+  static void Paste(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    user::Shortcut(Qt::Key_V);
+  }
+  // A repetition. Where it is not told as one, the toolkit takes its halves for a release and a
+  // press of their own.
+  static void Repeat(QWidget& window, Qt::Key key, bool told, Qt::KeyboardModifiers modifiers = {},
+                     const QString& text = "") {
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+      QKeyEvent event(type, key, modifiers, told ? 0 : 36, 0, 0, text, told);
+      event.setTimestamp(5);
+      QCoreApplication::sendEvent(window.windowHandle(), &event);
+    }
+  }
+};
 
 using Fields = StartedTest;
 
@@ -126,6 +156,145 @@ TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
   EXPECT_EQ(Selected("COLAField"), "😀");
   user::Key(Qt::Key_F1);
   check(GlobalModule::HelpWindow->TextField());
+}
+
+TEST_F(Hand, ADoubleClickSelectsTheWholeAmount) {
+  QWidget& field = Found("StartFundletField");
+  const QPoint middle = field.mapTo(field.window(), field.rect().center());
+  for (const bool focused : {false, true}) {
+    if (focused) user::Click(field);
+    QTest::mouseDClick(field.window()->windowHandle(), Qt::LeftButton, {}, middle);
+    user::Settle();
+    EXPECT_EQ(Selected("StartFundletField"), "1,000,000");
+  }
+}
+
+TEST_F(Hand, APasteGoesInWholeOrNotAtAllByEveryRoad) {
+  const std::function<void()> roads[] = {
+      [] { user::Shortcut(Qt::Key_V); },
+      [] { user::Key(Qt::Key_Insert, Qt::ShiftModifier); },
+      [] { user::Choose("Edit", "Paste"); },
+      [] {
+        user::OpenContextMenu();
+        user::Pick("Paste");
+      },
+  };
+  for (const auto& paste : roads) {
+    Fill("SocialSecurityField", "7");
+    user::Shortcut(Qt::Key_A);
+    QGuiApplication::clipboard()->setText("1,234,567");
+    paste();
+    EXPECT_EQ(Text("SocialSecurityField"), "7");
+    QGuiApplication::clipboard()->setText("\u202F 25,000\n");
+    paste();
+    EXPECT_EQ(Text("SocialSecurityField"), "25,000");
+    user::Shortcut(Qt::Key_Z);
+    EXPECT_EQ(Text("SocialSecurityField"), "7");
+  }
+  Fill("StartFundletField", "");
+  Paste("1,000,000,000");
+  EXPECT_EQ(Text("StartFundletField"), "1000000000");
+  user::Replace("");
+  Paste("250");
+  Repeat(Main().Native(), Qt::Key_V, true, Qt::ControlModifier);
+  EXPECT_EQ(Text("StartFundletField"), "250");
+}
+
+TEST_F(Hand, ADropReplacesTheTextAndIsKeptByTheNextActivation) {
+  QWidget& field = Found("FundletAPRField");
+  Fill("FundletAPRField", "5.0");
+  Drop(field, "3.46");
+  EXPECT_EQ(Text("FundletAPRField"), "3.46");
+  Drop(field, "3.4.6");
+  EXPECT_EQ(Text("FundletAPRField"), "3.46");
+  Fill("COLAField", "2");
+  Drop(field, "4");
+  EXPECT_EQ(FocusName(), "FundletAPRField");
+  EXPECT_EQ(ThePlan().COLA, 0.02);
+  user::VisitAnotherWindow([&] { Drop(field, " 4.5"); });
+  EXPECT_EQ(Text("FundletAPRField"), "4.5");
+  EXPECT_EQ(ThePlan().FundletAPR, 0.045);
+}
+
+TEST_F(Hand, TheLimitHoldsForWhatIsEnteredOverALongerTextAndUndoSurvives) {
+  user::Replace("123456");
+  EXPECT_EQ(Text("StartYearField"), "1234");
+  Fill("COLAField", "1.25");
+  QInputMethodEvent commit;
+  commit.setCommitString("34");
+  QCoreApplication::sendEvent(&Found("COLAField"), &commit);
+  EXPECT_EQ(Text("COLAField"), "1.25");
+  QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&Found("StartAgeField"));
+  for (const auto& [set, text] : {std::pair{"400", "65"}, {"70", "70"}}) {
+    reader->setText(QAccessible::Value, set);
+    EXPECT_EQ(Text("StartAgeField"), text);
+  }
+  Fill("StartFundletField", "");
+  Main().StartFundletField().SetText("1,000,000,000");
+  user::Type("5");
+  user::Shortcut(Qt::Key_A);
+  Paste("123456789012");
+  EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
+  user::Key(Qt::Key_End);
+  user::Key(Qt::Key_Backspace);
+  user::Type("5");
+  EXPECT_EQ(Text("StartFundletField"), "1,000,000,00");
+  user::Shortcut(Qt::Key_Z);
+  EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
+  for (int deleted = 0; deleted < 3; ++deleted) user::Key(Qt::Key_Backspace);
+  user::Type("56");
+  EXPECT_EQ(Text("StartFundletField"), "1,000,000,5");
+  Fill("StartYearField", "");
+  Main().StartYearField().SetText("😀😀😀");
+  user::Type("12");
+  EXPECT_EQ(Text("StartYearField"), "😀😀😀1");
+}
+
+TEST_F(Hand, ATextWithoutTheFocusIsSeenFromItsHead) {
+  auto& field = Found<QLineEdit>("StartYearField");
+  Fill("StartYearField", "1e99");
+  user::Key(Qt::Key_Tab);
+  EXPECT_GT(Text("StartYearField").size(), 15U);
+  EXPECT_EQ(field.cursorPosition(), 0);
+  Fill("StartFundletField", "1000000000");
+  user::Key(Qt::Key_Tab);
+  auto& money = Found<QLineEdit>("StartFundletField");
+  EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
+  EXPECT_LT(money.fontMetrics().horizontalAdvance(money.text()), money.width() - 4);
+}
+
+TEST_F(Hand, ThatHoldsAKeyAnswersNoDialogButStillTypesAName) {
+  const Answer only_by_a_fresh_key = [](QWidget& dialog) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_O, Qt::Key_Space}) {
+      for (const bool told : {true, false}) Repeat(dialog, key, told);
+      EXPECT_TRUE(dialog.isVisible()) << key;
+    }
+    ByKey(Qt::Key_Escape)(dialog);
+  };
+  CalculateRefused(only_by_a_fresh_key);
+  ExpectDialog(only_by_a_fresh_key);
+  user::Choose("File", "About Fundlet…");
+  Calculate();
+  ExpectDialog([&](QWidget& dialog) {
+    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    name->setFocus();
+    name->clear();
+    Repeat(dialog, Qt::Key_X, true, {}, "x");
+    EXPECT_EQ(name->text(), "x");
+    if (QWidget* completer = QApplication::activePopupWidget()) completer->hide();
+    only_by_a_fresh_key(dialog);
+  });
+  user::Shortcut(Qt::Key_S);
+}
+
+TEST_F(Hand, AMenuOpenedOverAMessageLeavesTheForcedValue) {
+  CalculateRefused([](QWidget& dialog) {
+    Main().Native().findChild<QMenu*>("EditMenu")->aboutToShow();
+    ByKey(Qt::Key_Return)(dialog);
+  });
+  EXPECT_EQ(Text("StartAgeField"), "52");
+  user::Type("61");
+  EXPECT_EQ(Text("StartAgeField"), "61");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "ui/help_window.h"
 
 #include <QAction>
+#include <QScrollBar>
 
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
@@ -14,6 +15,8 @@ class Help : public StartedTest {
   static aHelpWindow& Window() { return *GlobalModule::HelpWindow; }
   static int Showing() { return VisibleWindows("Fundlet Help"); }
 };
+
+using ASmallScreen = FundletTest;
 
 TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
   const std::function<void()> routes[] = {
@@ -107,6 +110,43 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   Window().Native().findChild<QAction*>("EditCopy")->trigger();
   EXPECT_EQ(QGuiApplication::clipboard()->text().left(8).toStdString(), "Fundlet\n")
       << "a desktop may let a menu be chosen from before its window has become the active one";
+}
+
+TEST_F(Help, IsFoundAsItWasLeftAndAPressPlacesTheCaretWhereItIs) {
+  user::Key(Qt::Key_F1);
+  auto& page = Found<QPlainTextEdit>("TextField");
+  user::Key(Qt::Key_Down);
+  EXPECT_EQ(page.verticalScrollBar()->value(), 1);
+  EXPECT_EQ(page.textCursor().blockNumber(), 1);
+  user::Key(Qt::Key_Tab);
+  page.verticalScrollBar()->setValue(20);
+  user::Click(*page.viewport(), QPoint(40, 100));
+  EXPECT_EQ(page.verticalScrollBar()->value(), 20);
+  EXPECT_TRUE(page.viewport()->rect().contains(page.cursorRect()));
+  user::Activate(Main());
+  user::Key(Qt::Key_F1);
+  EXPECT_EQ(page.verticalScrollBar()->value(), 20);
+  user::Key(Qt::Key_Tab);
+  user::Key(Qt::Key_Tab);
+  EXPECT_EQ(page.textCursor().position(), 0);
+  EXPECT_EQ(page.verticalScrollBar()->value(), 20);
+  user::Key(Qt::Key_Up);
+  EXPECT_EQ(page.verticalScrollBar()->value(), 19);
+  EXPECT_TRUE(page.viewport()->rect().intersects(page.cursorRect()));
+}
+
+TEST_F(ASmallScreen, ShowsTheTitleBarOfTheHelpAndItsButton) {
+  folder_.Write("screen", R"({"screens": [{"name": "small", "x": 0, "y": 0, "width": 683,
+      "height": 384, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + folder_.Path().string() + "/screen").c_str(),
+         1);
+  Start();
+  user::Key(Qt::Key_F1);
+  const QRect help = GlobalModule::HelpWindow->Native().geometry();
+  EXPECT_GT(help.top(), 20);
+  EXPECT_LE(help.bottom(), 384);
+  const QRect button = Found("DoneButton").geometry();
+  EXPECT_EQ(button.top(), GlobalModule::HelpWindow->Height() - 35);
 }
 
 }  // namespace
