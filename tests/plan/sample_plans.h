@@ -7,14 +7,12 @@ namespace fundlet {
 
 inline Plan MakePlan(std::int64_t years, double cola, double apr, double start, double end,
                      double social) {
-  Plan plan;
-  plan.YearsLeft = years;
-  plan.COLA = cola;
-  plan.FundletAPR = apr;
-  plan.StartFundlet = start;
-  plan.EndFundlet = end;
-  plan.SocialSecurity = social;
-  return plan;
+  return {.YearsLeft = years,
+          .COLA = cola,
+          .StartFundlet = start,
+          .SocialSecurity = social,
+          .FundletAPR = apr,
+          .EndFundlet = end};
 }
 
 // One press of Calculate, without the window's part of it.

@@ -130,15 +130,6 @@ TEST_F(Fields, ActivationsLeadBackToTheRefusedFieldUntilTheNextPress) {
   expect_focus_after_each("COLAField");
 }
 
-TEST_F(Fields, AClickSelectsTheWholeTextAndTheNextOnePlacesTheCaret) {
-  QWidget& field = Found("EndFundletField");
-  user::Click(field, QPoint(6, 10));
-  EXPECT_EQ(Selected("EndFundletField"), "100,000");
-  user::Click(field, QPoint(2, 10));
-  user::Type("9");
-  EXPECT_EQ(Text("EndFundletField"), "9100,000");
-}
-
 TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
   const auto check = [](auto& control) {
     control.SetText("a😀b😀");
@@ -158,15 +149,23 @@ TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
   check(GlobalModule::HelpWindow->TextField());
 }
 
-TEST_F(Hand, ADoubleClickSelectsTheWholeAmount) {
-  QWidget& field = Found("StartFundletField");
+TEST_F(Hand, AClickSelectsTheWholeTextTheNextOnePlacesTheCaretAndADoubleClickSelectsAll) {
+  QWidget& field = Found("EndFundletField");
   const QPoint middle = field.mapTo(field.window(), field.rect().center());
-  for (const bool focused : {false, true}) {
-    if (focused) user::Click(field);
+  const auto double_click = [&] {
     QTest::mouseDClick(field.window()->windowHandle(), Qt::LeftButton, {}, middle);
     user::Settle();
-    EXPECT_EQ(Selected("StartFundletField"), "1,000,000");
-  }
+  };
+  double_click();
+  EXPECT_EQ(Selected("EndFundletField"), "100,000");
+  user::Click(Found("StartYearField"));
+  user::Click(field, QPoint(6, 10));
+  EXPECT_EQ(Selected("EndFundletField"), "100,000");
+  user::Click(field, QPoint(2, 10));
+  user::Type("9");
+  EXPECT_EQ(Text("EndFundletField"), "9100,000");
+  double_click();
+  EXPECT_EQ(Selected("EndFundletField"), "9100,000");
 }
 
 TEST_F(Hand, APasteGoesInWholeOrNotAtAllByEveryRoad) {

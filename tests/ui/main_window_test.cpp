@@ -77,7 +77,7 @@ TEST_F(MainWindow, ReturnSolvesTheDefaultPlanAndGoesBackToTheField) {
   EXPECT_TRUE(Found("PrintButton").isEnabled());
 }
 
-TEST_F(MainWindow, APlanThatCannotBeSolvedIsToldAndTheNextOneSolves) {
+TEST_F(MainWindow, APlanThatCannotBeSolvedIsTold) {
   Calculate();
   Fill("YearsLeftField", "34");
   Fill("FundletAPRField", "90");
@@ -88,11 +88,6 @@ TEST_F(MainWindow, APlanThatCannotBeSolvedIsToldAndTheNextOneSolves) {
   EXPECT_EQ(Result(), "Initial Year Draw:  $0");
   EXPECT_FALSE(Found("PrintButton").isEnabled());
   EXPECT_EQ(FocusName(), "FundletAPRField");
-  Fill("FundletAPRField", "5");
-  Fill("YearsLeftField", "27");
-  Calculate();
-  EXPECT_EQ(Result(), "Initial Year Draw:  $73,325");
-  EXPECT_TRUE(Found("PrintButton").isEnabled());
 }
 
 TEST_F(MainWindow, ShowsAToolTipOnItsLinesAndOnADimmedButtonToo) {
@@ -120,7 +115,6 @@ TEST_F(AStart, GoesOnAfterAFileThatCannotBeReadAndLeavesItAlone) {
     ExpectDialog(ByKey(Qt::Key_Return));
     Start();
     EXPECT_EQ(TakeDialogs(), std::vector<std::string>{"File “Fundlet.Preferences” is busy."});
-    EXPECT_EQ(FocusName(), "StartYearField");
     user::Type("2010");
     user::Key(Qt::Key_Tab);
     EXPECT_EQ(Text("StartYearField"), "2010");
