@@ -24,15 +24,6 @@ TEST(PropertySet, EncodesEachKindOfValue) {
 using AppliedSet = StartedTest;
 using Registry = StartedTest;
 
-std::string ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const std::exception& error) {
-    return error.what();
-  }
-  return "";
-}
-
 TEST_F(AppliedSet, ThatCannotBeAppliedNamesTheObjectAndThePropertyAfterSettingWhatComesBefore) {
   const std::pair<std::string, std::string> cases[] = {
       {"MenuBarVisible \x01", "property “MenuBarVisible”: there is no such property"},

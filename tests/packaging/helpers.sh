@@ -8,7 +8,7 @@ desktop_entry_value() { sed -n "s/^$2=//p" "$1"; }
 # start_and_quit DESKTOP_ENTRY COMMAND...: the window opens with the program's icon and the class
 # that the desktop entry is found by, and is closed by its shortcut.
 start_and_quit() {
-  local entry=$1 process status=0
+  local entry=$1 process
   shift
   "$@" &
   process=$!
@@ -19,6 +19,5 @@ start_and_quit() {
   xprop -id "$(active_window)" _NET_WM_ICON >"$screen_folder/icon"
   grep -qF '(64 x 64)' "$screen_folder/icon" || wrong 'the window has no icon'
   press ctrl+q
-  wait "$process" || status=$?
-  [ "$status" -eq 0 ] || wrong "exit status $status of $*"
+  wait "$process" || wrong "exit status $? of $*"
 }

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <stdlib.h>
 #include <string>
@@ -10,6 +11,16 @@
 #include "services/folder_item.h"
 
 namespace fundlet {
+
+// What the action's failure says; empty where it does not fail.
+inline std::string ErrorOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& error) {
+    return error.what();
+  }
+  return "";
+}
 
 // A new folder that is the user's preferences folder too, for as long as it lives.
 class ScratchFolder {
@@ -20,8 +31,6 @@ class ScratchFolder {
     std::filesystem::permissions(path_, std::filesystem::perms{0777});
     setenv("XDG_CONFIG_HOME", path_.c_str(), 1);
   }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
   ~ScratchFolder() { std::filesystem::remove_all(path_); }
 
   const std::filesystem::path& Path() const { return path_; }
@@ -44,8 +53,6 @@ class ScratchFolder {
 class OrdinaryUser {
  public:
   OrdinaryUser() { Become(uid_ == 0 ? kNobody : uid_); }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
   ~OrdinaryUser() { Become(uid_); }
 
  private:
