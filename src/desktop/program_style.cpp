@@ -93,8 +93,8 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* data) const {
   if (hint == SH_Menu_AllowActiveAndDisabled) return 1;
-  // Else the Alt key alone, and Escape in a menu, give the menu bar the keys, and what is typed next
-  // is lost.
+  // Else the Alt key alone, and Escape in a menu, give the menu bar the keys, and what is typed
+  // next is lost.
   if (hint == SH_MenuBar_AltKeyNavigation) return 0;
   return QProxyStyle::styleHint(hint, option, widget, data);
 }

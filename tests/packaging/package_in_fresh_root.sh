@@ -7,7 +7,7 @@ folder=$2
 . "$source/tests/packaging/helpers.sh"
 need debootstrap Xvfb openbox xdotool xprop
 [ "$(id -u)" -eq 0 ] || skip 'only root can make a fresh root.'
-[ -s "$folder/lintian.log" ] || skip 'the package has not been built.'
+[ -e "$folder/lintian.log" ] || skip 'the package has not been built.'
 . /etc/os-release
 [ "$ID" = debian ] || skip 'debootstrap makes no root of this system.'
 

@@ -36,7 +36,8 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
   };
   for (const auto& [operation, item, rest] : failures) {
     const std::string name = item.Path().empty() ? item.Name() : item.Path().string();
-    EXPECT_EQ(ErrorOf([&] { operation(item); }), "File “" + name + "” could not be " + rest);
+    EXPECT_EQ(ErrorOf([&o = operation, &i = item] { o(i); }),
+              "File “" + name + "” could not be " + rest);
   }
   EXPECT_EQ(IOException(FileAction::Open, "x", EISDIR).ErrorNumber(), EISDIR);
   EXPECT_THROW(TextOutputStream::Create(std::nullopt), NilObjectException);
@@ -58,7 +59,8 @@ TEST(BinaryStream, NamesTheActionOfAnyCallThatFails) {
     close(next);
     BinaryStream stream = BinaryStream::Open(folder.Item("file"));
     ASSERT_EQ(close(next), 0) << "the file behind the stream is gone now";
-    EXPECT_NE(ErrorOf([&] { call(stream); }).find(std::string("be ") + action + ": the "), -1UL);
+    const std::string error = ErrorOf([&stream, &c = call] { c(stream); });
+    EXPECT_NE(error.find(std::string("be ") + action + ": the "), std::string::npos) << error;
   }
 }
 
