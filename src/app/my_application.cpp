@@ -1,10 +1,17 @@
 #include "app/my_application.h"
 
+#include "services/text.h"
 #include "ui/default_menu.h"
 #include "ui/global_module.h"
 #include "ui/main_window.h"
 
 namespace fundlet {
+
+namespace {
+
+constexpr std::uint32_t kHelpKeyCode = 5;
+
+}  // namespace
 
 void MyApplication::_EarlyStartup() {
   _SetSupportsHiDPI(true);
@@ -13,6 +20,11 @@ void MyApplication::_EarlyStartup() {
 
 void MyApplication::_NewAppInstance() {
   static MyApplication application;
+  application.Name = "Fundlet";
+  application.Version = FUNDLET_VERSION;
+  application.DesktopFile = "fundlet";
+  application.IconFiles = ":/fundlet/fundlet-%1.png";
+  application.HelpKey = Chr(kHelpKeyCode);
   application.MenuBar = &DefaultMenu::Instance();
   application.Report = &GlobalModule::AlertBox;
   RegisterApplication(application);

@@ -5,7 +5,6 @@
 #include <QIcon>
 #include <QMessageBox>
 
-#include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/window.h"
 
@@ -31,7 +30,7 @@ void ShowAboutBox() {
   // Wide enough for the title to be read.
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   if (grid != nullptr) grid->setColumnMinimumWidth(grid->columnCount() - 1, kTextWidth);
-  ModalDialog::Run(box, window);
+  Window::RunDialog(box, window);
 }
 
 }  // namespace fundlet

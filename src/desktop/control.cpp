@@ -4,10 +4,8 @@
 #include <QGuiApplication>
 #include <QWidget>
 
-#include "desktop/native_window.h"
 #include "desktop/qt_text.h"
 #include "desktop/text_fit.h"
-#include "desktop/window.h"
 
 namespace fundlet {
 
@@ -30,8 +28,8 @@ QString Wrapped(const QString& text) {
 
 }  // namespace
 
-Control::Control(Window& window, QWidget* native) : window_(window), native_(native) {
-  native_->setParent(&window.Native().Content());
+Control::Control(ControlOwner& owner, QWidget* native) : owner_(owner), native_(native) {
+  native_->setParent(&owner.Content());
 }
 
 int Control::Left() const { return native_->x(); }
@@ -73,13 +71,13 @@ void Control::Refresh(bool at_once) {
 }
 
 void Control::SetFocus() {
-  if (window_.Focused() == this) {
-    window_.FocusCameAgain(*this);
+  if (owner_.Focused() == this) {
+    owner_.FocusCameAgain(*this);
     return;
   }
   native_->setFocus(Qt::OtherFocusReason);
   // While the window is not the active one, the toolkit only notes where the focus is to be.
-  window_.FocusCame(*this);
+  owner_.FocusCame(*this);
 }
 
 void Control::SetName(std::string_view name) {

@@ -5,11 +5,38 @@
 
 #include "desktop/property_set.h"
 
+class QKeyEvent;
+class QPoint;
 class QWidget;
 
 namespace fundlet {
 
-class Window;
+class Control;
+class PushButton;
+
+// A window as its controls know it.
+class ControlOwner {
+ public:
+  virtual QWidget& Content() const = 0;  // where the controls stand
+  virtual Control* Focused() const = 0;
+  // The focus has come to a control, or gone from it, for good and not for the time of a menu.
+  virtual void FocusCame(Control& control) = 0;
+  virtual void FocusWent(Control& control) = 0;
+  // The program has given the focus to the control that has it.
+  virtual void FocusCameAgain(Control& control) = 0;
+  // The window is no longer the active one.
+  virtual void Deactivated() = 0;
+  virtual void SetDefaultButton(PushButton& button) = 0;
+  virtual void SetCancelButton(PushButton& button) = 0;
+  // Presses the default or the cancel button where the key means that, but not for a key that is
+  // held down. True where it means one of them.
+  virtual bool HandleKey(const QKeyEvent& event) = 0;
+  // Shows the menu of the editing commands as a context menu; the place is on the screen.
+  virtual void ShowEditMenu(const QPoint& place) = 0;
+
+ protected:
+  ~ControlOwner() = default;
+};
 
 // What all controls of a window have in common. Positions and sizes are in pixels of the window's
 // content area, with the origin at its top left.
@@ -62,10 +89,10 @@ class Control : public PropertyTarget {
   // The rows with which the table of every class of controls ends, but for single ones.
   static const std::array<PropertyRow, 12> kPlaceRows;
 
-  Control(Window& window, QWidget* native);
+  Control(ControlOwner& owner, QWidget* native);
   std::string Described() const override;
 
-  Window& OwnerWindow() const { return window_; }
+  ControlOwner& Owner() const { return owner_; }
   // The size or a text has changed, so that the text may have to be narrowed anew.
   virtual void FitText() {}
 
@@ -75,7 +102,7 @@ class Control : public PropertyTarget {
   void SetName(std::string_view name);
   void SetTabIndex(std::int64_t index);
 
-  Window& window_;
+  ControlOwner& owner_;
   QWidget* native_;  // owned by the window's own widget
   std::string name_;
   int tab_index_ = 0;

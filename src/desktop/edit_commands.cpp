@@ -18,30 +18,30 @@ bool HasCopyable(const QLineEdit& field) {
 }
 
 struct Command {
-  std::string_view name;
+  EditCommand command;
   bool (*able)(const QLineEdit&);
   void (*act)(QLineEdit&);
 };
 
 constexpr Command kCommands[] = {
-    {"EditUndo",
+    {EditCommand::Undo,
      [](const QLineEdit& field) { return !field.isReadOnly() && field.isUndoAvailable(); },
      [](QLineEdit& field) { field.undo(); }},
-    {"EditCut", [](const QLineEdit& field) { return !field.isReadOnly() && HasCopyable(field); },
+    {EditCommand::Cut,
+     [](const QLineEdit& field) { return !field.isReadOnly() && HasCopyable(field); },
      [](QLineEdit& field) { field.cut(); }},
-    {"EditCopy", HasCopyable, [](QLineEdit& field) { field.copy(); }},
+    {EditCommand::Copy, HasCopyable, [](QLineEdit& field) { field.copy(); }},
     // Whether there is something to paste is not asked: the program that holds it may not answer.
-    {"EditPaste", [](const QLineEdit& field) { return !field.isReadOnly(); },
+    {EditCommand::Paste, [](const QLineEdit& field) { return !field.isReadOnly(); },
      nullptr},  // the field's own
-    {"EditClear",
+    {EditCommand::Clear,
      [](const QLineEdit& field) { return !field.isReadOnly() && field.hasSelectedText(); },
      [](QLineEdit& field) { field.del(); }},
 };
 
-const Command* FindCommand(std::string_view name) {
-  const auto* const found = std::find_if(std::begin(kCommands), std::end(kCommands),
-                                         [name](const Command& c) { return c.name == name; });
-  return found != std::end(kCommands) ? found : nullptr;
+const Command& RowOf(EditCommand command) {
+  return *std::find_if(std::begin(kCommands), std::end(kCommands),
+                       [command](const Command& row) { return row.command == command; });
 }
 
 QLineEdit* FieldIn(const Control* control) {
@@ -49,30 +49,28 @@ QLineEdit* FieldIn(const Control* control) {
 }
 
 // A text of many lines is only ever read, so copying is all that can be done with it.
-QPlainTextEdit* AreaIn(std::string_view name, const Control* control) {
-  const bool copies = control != nullptr && name == "EditCopy";
+QPlainTextEdit* AreaIn(EditCommand command, const Control* control) {
+  const bool copies = control != nullptr && command == EditCommand::Copy;
   return copies ? qobject_cast<QPlainTextEdit*>(control->Native()) : nullptr;
 }
 
 }  // namespace
 
-bool IsEditCommand(std::string_view name) { return FindCommand(name) != nullptr; }
-
-bool CanEdit(std::string_view name, const Control* control) {
-  if (const QLineEdit* field = FieldIn(control)) return FindCommand(name)->able(*field);
-  const QPlainTextEdit* area = AreaIn(name, control);
+bool CanEdit(EditCommand command, const Control* control) {
+  if (const QLineEdit* field = FieldIn(control)) return RowOf(command).able(*field);
+  const QPlainTextEdit* area = AreaIn(command, control);
   return area != nullptr && area->textCursor().hasSelection();
 }
 
-void Edit(std::string_view name, const Control* control) {
+void Edit(EditCommand command, const Control* control) {
   if (const auto* field = dynamic_cast<const TextField*>(control)) {
-    if (name == "EditPaste") {
+    if (command == EditCommand::Paste) {
       field->Paste();
     } else {
-      FindCommand(name)->act(*FieldIn(field));
+      RowOf(command).act(*FieldIn(field));
     }
   }
-  if (QPlainTextEdit* area = AreaIn(name, control)) area->copy();
+  if (QPlainTextEdit* area = AreaIn(command, control)) area->copy();
 }
 
 }  // namespace fundlet

@@ -4,7 +4,6 @@
 
 #include "desktop/control.h"
 #include "desktop/program_gate.h"
-#include "desktop/window.h"
 
 namespace fundlet {
 
@@ -13,10 +12,10 @@ namespace fundlet {
 template <typename Widget>
 class FocusReporting : public Widget {
  public:
-  FocusReporting(Window& window, Control& control) : window_(window), control_(control) {}
+  FocusReporting(ControlOwner& owner, Control& control) : owner_(owner), control_(control) {}
 
  protected:
-  Window& Owner() const { return window_; }
+  ControlOwner& Owner() const { return owner_; }
 
   void focusInEvent(QFocusEvent* event) override {
     QFocusEvent toolkits(ForToolkit(*event));
@@ -24,8 +23,8 @@ class FocusReporting : public Widget {
     // A window that comes back while a handler runs is given its activation afterwards, and that
     // decides where the focus is to be.
     const bool toolkits_choice = event->reason() == Qt::ActiveWindowFocusReason &&
-                                 ProgramGate::Instance().Busy() && window_.Focused() == nullptr;
-    if (!toolkits_choice) window_.FocusCame(control_);
+                                 ProgramGate::Instance().Busy() && owner_.Focused() == nullptr;
+    if (!toolkits_choice) owner_.FocusCame(control_);
   }
 
   void focusOutEvent(QFocusEvent* event) override {
@@ -33,9 +32,9 @@ class FocusReporting : public Widget {
     Widget::focusOutEvent(&toolkits);
     if (IsForMenu(*event)) return;
     if (event->reason() == Qt::ActiveWindowFocusReason) {
-      window_.Deactivated();
+      owner_.Deactivated();
     } else {
-      window_.FocusWent(control_);
+      owner_.FocusWent(control_);
     }
   }
 
@@ -49,7 +48,7 @@ class FocusReporting : public Widget {
     return QFocusEvent(event.type(), IsForMenu(event) ? Qt::PopupFocusReason : event.reason());
   }
 
-  Window& window_;
+  ControlOwner& owner_;
   Control& control_;
 };
 

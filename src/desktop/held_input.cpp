@@ -12,6 +12,14 @@
 #include "desktop/program_gate.h"
 #include "services/background.h"
 
+// The road that the keys take in Qt before they reach a widget, as its QTest takes it for keys that
+// do not come from the desktop: first ShortcutOverride, then the shortcuts.
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
+                                               Qt::KeyboardModifiers modifiers, const QString& text,
+                                               bool repeated, ushort count);
+QT_END_NAMESPACE
+
 namespace fundlet {
 
 namespace {
@@ -161,12 +169,6 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
     event->accept();
     return true;
   }
-  if (event->type() == QEvent::ShortcutOverride) {
-    const auto* key = static_cast<const QKeyEvent*>(event);
-    if (NativeWindow* window = NativeWindow::Of(object); window != nullptr) {
-      window->BeforeShortcut(key->keyCombination());
-    }
-  }
   return false;
 }
 
@@ -206,15 +208,9 @@ void HeldInput::ReplayNext() {
 void HeldInput::Deliver(QObject& receiver, QEvent& event) {
   if (event.type() == QEvent::KeyPress) {
     const auto& key = static_cast<const QKeyEvent&>(event);
-    QKeyEvent override(QEvent::ShortcutOverride, key.key(), key.modifiers(), key.text(),
-                       key.isAutoRepeat());
-    override.ignore();
-    QCoreApplication::sendEvent(&receiver, &override);
-    NativeWindow* window = NativeWindow::Of(&receiver);
-    if (!override.isAccepted() && window != nullptr &&
-        window->TriggerShortcut(key.keyCombination())) {
-      return;
-    }
+    const bool shortcut = qt_sendShortcutOverrideEvent(
+        &receiver, key.timestamp(), key.key(), key.modifiers(), key.text(), key.isAutoRepeat(), 1);
+    if (shortcut) return;
   }
   QCoreApplication::sendEvent(&receiver, &event);
 }

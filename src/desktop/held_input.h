@@ -20,9 +20,6 @@ namespace fundlet {
 //
 // On some desktops a click reaches a window before the activation that it brings. It is held until
 // then, so that what the activation does with the focus comes before what the user has clicked on.
-//
-// It is also the place that sees each key before the toolkit looks up its shortcut, and so lets
-// the front window decide first which menu items can be chosen.
 class HeldInput : public QObject {
  public:
   HeldInput();

@@ -23,7 +23,7 @@ Qt::Alignment LabelAlignment(std::int64_t align) {
 
 }  // namespace
 
-Label::Label(Window& window) : TextControl(window, new QLabel) {
+Label::Label(ControlOwner& owner) : TextControl(owner, new QLabel) {
   LabelOf(*this).setTextFormat(Qt::PlainText);
   LabelOf(*this).setFocusPolicy(Qt::NoFocus);
 }

@@ -7,7 +7,7 @@ namespace fundlet {
 // One line of text that cannot be edited.
 class Label : public TextControl {
  public:
-  explicit Label(Window& window);
+  explicit Label(ControlOwner& owner);
 
   std::string Text() const;
   void SetText(std::string_view text);

@@ -8,6 +8,9 @@
 
 namespace fundlet {
 
+// What an item does to the text that has the focus.
+enum class EditCommand { None, Undo, Cut, Copy, Paste, Clear };
+
 // One item of the menus, found by its name, which is unique in the whole tree. The tree is data; a
 // window shows it.
 //
@@ -22,6 +25,7 @@ class MenuItem {
   bool AutoEnable = false;  // enabled without the program's doing where it can do something
   bool Visible = false;
   std::string KeyboardShortcut;  // such as "Cmd+S"; empty for none
+  EditCommand Edits = EditCommand::None;
 
   void Append(std::unique_ptr<MenuItem> item);
   // The direct child of that name; NilObjectException where there is none.

@@ -1,13 +1,14 @@
 #include "desktop/menu_view.h"
 
+#include <utility>
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 #include "desktop/menu.h"
-#include "desktop/native_window.h"
 #include "desktop/qt_text.h"
-#include "desktop/window.h"
 
 namespace fundlet {
 
@@ -29,14 +30,15 @@ QAction::MenuRole RoleOf(const MenuItem& item) {
 
 }  // namespace
 
-MenuView::MenuView(Window& window, const MenuItem& tree, QMenuBar& bar) : window_(window) {
+MenuView::MenuView(Acts acts, const MenuItem& tree, QMenuBar& bar)
+    : acts_(std::move(acts)), bar_(bar) {
   for (const auto& item : tree.Children()) {
     if (!item->IsShown()) continue;
     auto* menu = new QMenu('&' + Escaped(item->Text), &bar);
     menu->setObjectName(ToQt(item->Name));
     Fill(*menu, *item);
     bar.addMenu(menu);
-    QObject::connect(menu, &QMenu::aboutToShow, menu, [this] { window_.EnableMenuItems(); });
+    QObject::connect(menu, &QMenu::aboutToShow, menu, acts_.enable);
   }
 }
 
@@ -59,13 +61,19 @@ void MenuView::AddItem(QMenu& menu, MenuItem& item) {
 QAction& MenuView::AddAction(QMenu& menu, MenuItem& item) {
   QAction& action = *menu.addAction(Escaped(item.Text));
   action.setObjectName(ToQt(item.Name));
+  // A disabled action's shortcut never fires, and what can be chosen is decided when it does: so
+  // the action only shows it.
   action.setShortcut(Shortcut(item));
-  action.setAutoRepeat(false);
+  action.setShortcutContext(Qt::WidgetShortcut);
+  if (!action.shortcut().isEmpty()) {
+    auto* shortcut = new QShortcut(action.shortcut(), bar_.window());
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, &menu, [this, &item] { acts_.choose(item); });
+  }
+  if (item.Edits != EditCommand::None) edit_menu_ = &menu;
   action.setMenuRole(RoleOf(item));
   action.setEnabled(false);
-  QObject::connect(&action, &QAction::triggered, &menu, [this, &item] {
-    if (NativeWindow::Active() != nullptr) window_.Choose(item);
-  });
+  QObject::connect(&action, &QAction::triggered, &menu, [this, &item] { acts_.choose(item); });
   return action;
 }
 
@@ -81,15 +89,8 @@ void MenuView::ShowEnabling() {
   for (const Shown& shown : shown_) shown.action->setEnabled(shown.item->Enabled());
 }
 
-bool MenuView::TriggerShortcut(QKeyCombination keys) {
-  const QKeySequence sequence(
-      QKeyCombination(keys.keyboardModifiers() & ~Qt::KeypadModifier, keys.key()));
-  for (const Shown& shown : shown_) {
-    if (shown.action->shortcut() != sequence || !shown.action->isEnabled()) continue;
-    shown.action->trigger();
-    return true;
-  }
-  return false;
+void MenuView::ShowEditMenu(const QPoint& place) const {
+  if (edit_menu_ != nullptr) edit_menu_->popup(place);
 }
 
 }  // namespace fundlet

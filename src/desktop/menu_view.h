@@ -1,28 +1,32 @@
 #pragma once
 
+#include <functional>
 #include <vector>
-
-#include <QKeyCombination>
 
 class QAction;
 class QMenu;
 class QMenuBar;
+class QPoint;
 
 namespace fundlet {
 
 class MenuItem;
-class Window;
 
 // One window's menus on the screen, made from the tree of items. The tree exists once; the bar, the
 // menus and the actions are the window's own, and act on that window.
 class MenuView {
  public:
-  MenuView(Window& window, const MenuItem& tree, QMenuBar& bar);
+  // What the window does for its menus.
+  struct Acts {
+    std::function<void()> enable;  // decides which items can be chosen now
+    std::function<void(MenuItem&)> choose;
+  };
+  MenuView(Acts acts, const MenuItem& tree, QMenuBar& bar);
 
   // Shows which items are enabled.
   void ShowEnabling();
-  // Chooses the item whose shortcut the keys are; True where there is one that is enabled.
-  bool TriggerShortcut(QKeyCombination keys);
+  // Shows the menu that has the editing commands as a context menu.
+  void ShowEditMenu(const QPoint& place) const;
 
  private:
   struct Shown {
@@ -35,8 +39,10 @@ class MenuView {
   void AddMenuTo(QMenu& menu, MenuItem& item);
   void Fill(QMenu& menu, MenuItem& item);
 
-  Window& window_;
+  Acts acts_;
+  QMenuBar& bar_;
   std::vector<Shown> shown_;
+  QMenu* edit_menu_ = nullptr;
 };
 
 }  // namespace fundlet

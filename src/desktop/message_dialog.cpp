@@ -4,7 +4,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/qt_text.h"
 #include "desktop/window.h"
@@ -20,7 +19,7 @@ const MessageDialogButton& MessageDialog::ShowModalWithin(Window* window) {
   auto* button = box.addButton(ToQt(ActionButton.Caption), QMessageBox::AcceptRole);
   box.setDefaultButton(button);
   box.setEscapeButton(button);
-  ModalDialog::Run(box, window);
+  Window::RunDialog(box, window);
   return ActionButton;
 }
 

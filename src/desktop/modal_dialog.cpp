@@ -12,27 +12,21 @@
 
 #include "desktop/native_window.h"
 #include "desktop/own_frame.h"
-#include "desktop/window.h"
 
 namespace fundlet {
 
 namespace {
 
-struct Opened {
-  QDialog* dialog;
-  const Window* owner;
-};
-
 // The open dialogs, the latest last.
-std::vector<Opened>& OpenDialogs() {
-  static std::vector<Opened> dialogs;
+std::vector<QDialog*>& OpenDialogs() {
+  static std::vector<QDialog*> dialogs;
   return dialogs;
 }
 
 // A dialog while it is open.
 class OpenDialog {
  public:
-  OpenDialog(QDialog& dialog, const Window* owner) { OpenDialogs().push_back({&dialog, owner}); }
+  explicit OpenDialog(QDialog& dialog) { OpenDialogs().push_back(&dialog); }
   ~OpenDialog() { OpenDialogs().pop_back(); }
   OpenDialog(const OpenDialog&) = delete;
   OpenDialog& operator=(const OpenDialog&) = delete;
@@ -40,17 +34,16 @@ class OpenDialog {
 
 }  // namespace
 
-void ModalDialog::Run(QDialog& dialog, Window* owner) {
+void ModalDialog::Run(QDialog& dialog) {
   QEventLoop loop;
   QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
-  const OpenDialog open(dialog, owner);
+  const OpenDialog open(dialog);
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
   OwnFrame::PutRound(dialog);
   dialog.raise();
   dialog.activateWindow();
   loop.exec();
-  if (owner != nullptr) owner->DialogClosed();
 }
 
 bool ModalDialog::IsOpen() { return !OpenDialogs().empty(); }
@@ -61,9 +54,8 @@ namespace {
 bool IsBeneath(QObject* object) {
   if (NativeWindow::Of(object) != nullptr) return true;
   const auto* widget = qobject_cast<QWidget*>(object);
-  return std::any_of(OpenDialogs().begin(), OpenDialogs().end() - 1, [&](const Opened& opened) {
-    return widget != nullptr ? widget->window() == opened.dialog
-                             : object == opened.dialog->windowHandle();
+  return std::any_of(OpenDialogs().begin(), OpenDialogs().end() - 1, [&](const QDialog* dialog) {
+    return widget != nullptr ? widget->window() == dialog : object == dialog->windowHandle();
   });
 }
 
@@ -72,7 +64,7 @@ bool IsBeneath(QObject* object) {
 bool IsHeldAnswer(QObject* object, const QEvent& event) {
   if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride) return false;
   const auto& key = static_cast<const QKeyEvent&>(event);
-  const QDialog* dialog = OpenDialogs().back().dialog;
+  const QDialog* dialog = OpenDialogs().back();
   const auto* widget = qobject_cast<QWidget*>(object);
   const bool to_dialog =
       widget != nullptr ? widget->window() == dialog : object == dialog->windowHandle();
@@ -89,17 +81,17 @@ bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
   if (!IsOpen() || event.type() == QEvent::Close || !IsBeneath(object)) return false;
   if (OwnFrame::Takes(object, event)) return false;
   if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::KeyPress) {
-    OpenDialogs().back().dialog->raise();
-    OpenDialogs().back().dialog->activateWindow();
+    OpenDialogs().back()->raise();
+    OpenDialogs().back()->activateWindow();
   }
   return true;
 }
 
-void ModalDialog::Dismiss(const Window* owner) {
-  std::vector<Opened> dialogs = OpenDialogs();
+void ModalDialog::Dismiss(const QWidget* owner) {
+  std::vector<QDialog*> dialogs = OpenDialogs();
   std::reverse(dialogs.begin(), dialogs.end());
-  for (const Opened& opened : dialogs) {
-    if (owner == nullptr || opened.owner == owner) opened.dialog->reject();
+  for (QDialog* dialog : dialogs) {
+    if (owner == nullptr || dialog->parentWidget() == owner) dialog->reject();
   }
 }
 

@@ -3,26 +3,24 @@
 class QDialog;
 class QEvent;
 class QObject;
+class QWidget;
 
 namespace fundlet {
-
-class Window;
 
 // A dialog that the user has to answer before working on in the program's windows. It is not modal
 // in the toolkit's sense, because the toolkit then refuses a window beneath to be closed: here the
 // windows take no input while it is open, but closing one dismisses the dialog and goes ahead.
 class ModalDialog {
  public:
-  // Shows the dialog and returns when it has been answered. The owner, which may be null, is
-  // activated once the running handler has returned.
-  static void Run(QDialog& dialog, Window* owner);
+  // Shows the dialog, which belongs to its parentWidget, and returns when it has been answered.
+  static void Run(QDialog& dialog);
 
   static bool IsOpen();
   // Whether input to the object has to wait for a dialog; then the dialog is brought to the front.
   // Also whether it is a key, held down since before, that would answer the dialog unread.
   static bool Blocks(QObject* object, const QEvent& event);
   // Answers the open dialogs of a window as their close boxes do; null stands for those of all.
-  static void Dismiss(const Window* owner);
+  static void Dismiss(const QWidget* owner);
 };
 
 }  // namespace fundlet

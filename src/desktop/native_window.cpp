@@ -6,37 +6,27 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPalette>
 #include <QWindow>
 
-#include "desktop/modal_dialog.h"
+#include "desktop/application.h"
+#include "desktop/control.h"
 #include "desktop/own_frame.h"
-#include "desktop/program_gate.h"
 #include "desktop/program_style.h"
-#include "desktop/push_button.h"
 #include "desktop/qt_text.h"
-#include "desktop/text_field.h"
-#include "desktop/window.h"
-#include "services/text.h"
+#include "desktop/window_events.h"
 
 namespace fundlet {
 
 namespace {
 
-#ifdef Q_OS_MACOS
-constexpr auto kControlModifier = Qt::MetaModifier;
-#else
-constexpr auto kControlModifier = Qt::ControlModifier;
-#endif
-
 // The content area. It draws the ring round the control that has the focus, in the gap that the
 // layout leaves between the controls.
 class ContentWidget : public QWidget {
  public:
-  ContentWidget(const Window& window, QWidget* parent) : QWidget(parent), window_(window) {}
+  ContentWidget(const WindowEvents& window, QWidget* parent) : QWidget(parent), window_(window) {}
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
@@ -52,27 +42,20 @@ class ContentWidget : public QWidget {
   }
 
  private:
-  const Window& window_;
+  const WindowEvents& window_;
 };
 
 void ReadProgramIcon() {
   QIcon icon;
   for (const int size : {16, 32, 64, 128}) {
-    icon.addFile(QString(":/fundlet/fundlet-%1.png").arg(size), QSize(size, size));
+    icon.addFile(ToQt(App().IconFiles).arg(size), QSize(size, size));
   }
   QApplication::setWindowIcon(icon);
 }
 
 }  // namespace
 
-std::string KeyText(const QKeyEvent& event) {
-  const bool control_e = event.key() == Qt::Key_E && event.modifiers() == kControlModifier;
-  if (event.key() == Qt::Key_Help || event.key() == Qt::Key_F1 || control_e)
-    return Chr(kHelpKeyCode);
-  return FromQt(event.text());
-}
-
-NativeWindow::NativeWindow(Window& window) : window_(window) {
+NativeWindow::NativeWindow(WindowEvents& window) : window_(window) {
   setAttribute(Qt::WA_DeleteOnClose, false);
   setContextMenuPolicy(Qt::NoContextMenu);
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -92,12 +75,6 @@ NativeWindow* NativeWindow::Of(QObject* object) {
     if (window != nullptr && window->windowHandle() == object) return window;
   }
   return nullptr;
-}
-
-Window* NativeWindow::Active() {
-  if (ModalDialog::IsOpen() || QApplication::activeModalWidget() != nullptr) return nullptr;
-  auto* active = dynamic_cast<NativeWindow*>(QApplication::activeWindow());
-  return active != nullptr ? &active->window_ : Window::Front();
 }
 
 void NativeWindow::SetContentSize(int width, int height) {
@@ -156,14 +133,10 @@ void NativeWindow::SetHasBackColor(bool painted) {
   centralWidget()->setAutoFillBackground(painted);
 }
 
-void NativeWindow::ShowMenus() {
+void NativeWindow::ShowMenus(const MenuItem& tree, MenuView::Acts acts) {
   if (!menu_bar_visible_) return;
-  menus_ = std::make_unique<MenuView>(window_, window_.MenuBar(), *menuBar());
+  menus_ = std::make_unique<MenuView>(std::move(acts), tree, *menuBar());
   FitToContent();
-}
-
-void NativeWindow::ShowMenuAt(const QString& name, QPoint place) {
-  if (auto* menu = findChild<QMenu*>(name)) menu->popup(place);
 }
 
 void NativeWindow::ShowFirst() {
@@ -173,29 +146,6 @@ void NativeWindow::ShowFirst() {
   takes_any_size_ = OwnFrame::PutRound(*this);
   resizeable_ = resizeable;
   if (takes_any_size_) FitToContent();
-}
-
-void NativeWindow::BeforeShortcut(QKeyCombination keys) {
-  const bool may_be_shortcut = keys.keyboardModifiers().testFlag(Qt::ControlModifier);
-  if (menus_ && may_be_shortcut) window_.EnableMenuItems();
-}
-
-bool NativeWindow::TriggerShortcut(QKeyCombination keys) {
-  return menus_ && menus_->TriggerShortcut(keys);
-}
-
-void NativeWindow::ShowEnabling() {
-  if (menus_) menus_->ShowEnabling();
-}
-
-bool NativeWindow::HandleKey(const QKeyEvent& event) {
-  const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-  const bool return_key = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  PushButton* button = nullptr;
-  if (plain && return_key) button = window_.DefaultButton();
-  if (plain && event.key() == Qt::Key_Escape) button = window_.CancelButton();
-  if (button != nullptr && !event.isAutoRepeat()) button->Press();
-  return button != nullptr;
 }
 
 bool NativeWindow::event(QEvent* event) {
@@ -215,18 +165,12 @@ void NativeWindow::paintEvent(QPaintEvent* event) {
 }
 
 void NativeWindow::closeEvent(QCloseEvent* event) {
-  ModalDialog::Dismiss(window_.EndsProgram() ? nullptr : &window_);
-  ProgramGate::Instance().Enter("", [this] { window_.Close(); });
+  window_.CloseAsked();
   event->accept();
 }
 
 void NativeWindow::keyPressEvent(QKeyEvent* event) {
-  bool used = HandleKey(*event);
-  const std::string key = KeyText(*event);
-  if (!used && !key.empty()) {
-    ProgramGate::Instance().EnterWithin("", [&] { used = window_.Event_KeyDown(key); });
-  }
-  event->setAccepted(used);
+  event->setAccepted(window_.KeyPressed(*event));
 }
 
 bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
@@ -236,7 +180,7 @@ bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
   if (resized && centralWidget()->size() != content_size_) {
     content_size_ = centralWidget()->size();
     content_->resize(content_size_);
-    ProgramGate::Instance().EnterWithin("", [this] { window_.Event_Resized(); });
+    window_.Resized();
   }
   return QMainWindow::eventFilter(object, event);
 }

@@ -10,22 +10,18 @@
 
 namespace fundlet {
 
-class Window;
+class WindowEvents;
 
-// The toolkit's side of a window: a main window whose central widget holds the content area. The
+// Qt's side of a window: a main window whose central widget holds the content area. The
 // desktop may give the window another size than that of the content, which then stands at the top
 // left of a ground in its colour.
 class NativeWindow : public QMainWindow {
  public:
-  explicit NativeWindow(Window& window);
+  explicit NativeWindow(WindowEvents& window);
 
-  // The window that an object of the toolkit, a widget or a native window, belongs to; null for
-  // those of dialogs.
+  // The window that a QWidget or QWindow belongs to; null for those of dialogs.
   static NativeWindow* Of(QObject* object);
-  // The program's window that the user works with; null while that is a dialog.
-  static Window* Active();
 
-  Window& Program() const { return window_; }
   QWidget& Content() const { return *content_; }
 
   void SetContentSize(int width, int height);
@@ -41,19 +37,10 @@ class NativeWindow : public QMainWindow {
   void SetMenuBarVisible(bool visible) { menu_bar_visible_ = visible; }
 
   // Makes the menus; to be called once the window's set of menus is settled.
-  void ShowMenus();
-  // Shows the menu of that name as a context menu, where the window has it.
-  void ShowMenuAt(const QString& name, QPoint place);
+  void ShowMenus(const MenuItem& tree, MenuView::Acts acts);
+  MenuView* Menus() const { return menus_.get(); }  // null where the window shows none
   // Shows the window for the first time.
   void ShowFirst();
-  // Runs the enabling pass when the keys may be the shortcut of an item.
-  void BeforeShortcut(QKeyCombination keys);
-  bool TriggerShortcut(QKeyCombination keys);
-  void ShowEnabling();
-
-  // What a key means that no control has used up: the default or cancel button, or the program's
-  // own. True where it meant something.
-  bool HandleKey(const QKeyEvent& event);
 
  protected:
   bool event(QEvent* event) override;
@@ -67,7 +54,7 @@ class NativeWindow : public QMainWindow {
   QSize Outside() const;  // what the window takes beyond its content
   void FitToContent();
 
-  Window& window_;
+  WindowEvents& window_;
   QWidget* content_;
   std::unique_ptr<MenuView> menus_;
   QSize content_size_ = {0, 0};
@@ -78,9 +65,5 @@ class NativeWindow : public QMainWindow {
   bool takes_any_size_ = false;
   bool menu_bar_visible_ = true;
 };
-
-// The one-character text of a key, empty for a key that has none. The keys for help all give the
-// character of kHelpKeyCode.
-std::string KeyText(const QKeyEvent& event);
 
 }  // namespace fundlet

@@ -54,6 +54,6 @@ class WheelWidget : public QWidget {
 
 }  // namespace
 
-ProgressWheel::ProgressWheel(Window& window) : ShapeControl(window, new WheelWidget) {}
+ProgressWheel::ProgressWheel(ControlOwner& owner) : ShapeControl(owner, new WheelWidget) {}
 
 }  // namespace fundlet

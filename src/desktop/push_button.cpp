@@ -6,7 +6,6 @@
 #include <QPushButton>
 
 #include "desktop/focus_reporting.h"
-#include "desktop/native_window.h"
 #include "desktop/qt_text.h"
 
 namespace fundlet {
@@ -20,7 +19,7 @@ class ButtonWidget : public FocusReporting<QPushButton> {
  protected:
   // Some desktops let Return press the button that has the focus. Here it calculates, everywhere.
   void keyPressEvent(QKeyEvent* event) override {
-    if (!static_cast<NativeWindow*>(window())->HandleKey(*event)) {
+    if (!Owner().HandleKey(*event)) {
       FocusReporting::keyPressEvent(event);
     }
   }
@@ -32,7 +31,7 @@ ButtonWidget& ButtonOf(const Control& control) {
 
 }  // namespace
 
-PushButton::PushButton(Window& window) : TextControl(window, new ButtonWidget(window, *this)) {
+PushButton::PushButton(ControlOwner& owner) : TextControl(owner, new ButtonWidget(owner, *this)) {
   ButtonWidget& button = ButtonOf(*this);
   button.setFocusPolicy(Qt::TabFocus);
   button.setAutoDefault(false);
@@ -55,11 +54,11 @@ void PushButton::SetCaption(std::string_view caption) {
 void PushButton::SetDefault(bool is_default) {
   if (!is_default) return;
   ButtonOf(*this).setDefault(true);
-  OwnerWindow().SetDefaultButton(this);
+  Owner().SetDefaultButton(*this);
 }
 
 void PushButton::SetCancel(bool is_cancel) {
-  if (is_cancel) OwnerWindow().SetCancelButton(this);
+  if (is_cancel) Owner().SetCancelButton(*this);
 }
 
 void PushButton::Press() { ButtonOf(*this).click(); }

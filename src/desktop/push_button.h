@@ -10,7 +10,7 @@ namespace fundlet {
 // the focus to it, and the space bar presses it then.
 class PushButton : public TextControl {
  public:
-  explicit PushButton(Window& window);
+  explicit PushButton(ControlOwner& owner);
 
   std::string Caption() const;
   void SetCaption(std::string_view caption);

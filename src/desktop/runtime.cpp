@@ -2,7 +2,6 @@
 
 #include <future>
 #include <map>
-#include <optional>
 #include <utility>
 
 #include <QApplication>
@@ -12,17 +11,16 @@
 #include "desktop/modal_dialog.h"
 #include "desktop/program_gate.h"
 #include "desktop/program_style.h"
+#include "desktop/qt_text.h"
 #include "desktop/screen_reader.h"
 
 namespace fundlet {
 
 namespace {
 
-Application* registered_application = nullptr;
 // Never destroyed: where the process is ended from within the toolkit, as when its display goes, no
 // window may be touched any more.
 auto& implicit_instances = *new std::map<std::string, std::unique_ptr<Window>>;
-std::optional<int> end_status;  // once the end has been asked for
 
 // An end that the desktop asks for, as that of its session, closes an open message like any answer.
 // It has to be the program's end too, also while the start waits for that answer.
@@ -35,27 +33,6 @@ class EndRequests : public QObject {
 };
 
 }  // namespace
-
-void Application::_SetSupportsHiDPI(bool supported) {
-  if (!supported) return;
-  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-      Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-}
-
-Application& App() {
-  if (registered_application == nullptr) {
-    throw NilObjectException("The program has not started yet.");
-  }
-  return *registered_application;
-}
-
-void RegisterApplication(Application& application) { registered_application = &application; }
-
-void Quit(int status) {
-  ProgramGate::Instance().Shut();
-  end_status = status;
-  QCoreApplication::exit(status);
-}
 
 Window& ImplicitInstance(const std::string& class_name,
                          const std::function<std::unique_ptr<Window>()>& make) {
@@ -79,14 +56,13 @@ struct Runtime::Parts {
 
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {
   ProgramGate::Instance().Reopen();
-  end_status.reset();
 }
 
 Runtime::~Runtime() {
   ProgramGate::Instance().Shut();
   ProgramGate::Instance().SetHooks({});
   implicit_instances.clear();
-  registered_application = nullptr;
+  ForgetApplication();
 }
 
 void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {
@@ -99,9 +75,9 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   // The toolkit's search for fonts takes a good part of the opening, and runs beside the connection
   // to the desktop from here on. Nothing of the program's own leaves this thread.
   parts_->font_search = std::async([] { QFontDatabase::families(); });
-  QApplication::setApplicationName("Fundlet");
-  QApplication::setApplicationVersion("5");
-  QApplication::setDesktopFileName("fundlet");
+  QApplication::setApplicationName(ToQt(App().Name));
+  QApplication::setApplicationVersion(ToQt(App().Version));
+  QApplication::setDesktopFileName(ToQt(App().DesktopFile));
   QApplication::setQuitOnLastWindowClosed(false);
   parts_->held_input = std::make_unique<HeldInput>();
   parts_->screen_reader = std::make_unique<ScreenReader>();
@@ -116,7 +92,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
 
 int Runtime::Run() {
   // The toolkit forgets an end that was asked for before its loop runs.
-  if (end_status) return *end_status;
+  if (EndStatus()) return *EndStatus();
   if (Window::Front() == nullptr) return 1;
   return QApplication::exec();
 }

@@ -3,31 +3,11 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 
+#include "desktop/application.h"
 #include "desktop/window.h"
 
 namespace fundlet {
-
-// The program as the desktop knows it.
-class Application {
- public:
-  virtual ~Application() = default;
-
-  fundlet::MenuBar* MenuBar = nullptr;  // of the application, and of each window that sets none
-  // Tells the user of a failure that no handler of the program has caught.
-  std::function<void(const std::string& message)> Report;
-
-  // Declares, before the desktop has started, that the program draws sharply on dense displays.
-  static void _SetSupportsHiDPI(bool supported);
-};
-
-// The registered application object; NilObjectException before there is one.
-Application& App();
-void RegisterApplication(Application& application);
-
-// Asks the event loop to end; the process then ends with the given status.
-void Quit(int status);
 
 // The one window of a kind, made by `make` when it does not exist yet. It is kept under the full
 // name of its class until the run ends.
@@ -43,8 +23,8 @@ class Runtime {
   Runtime(const Runtime&) = delete;
   Runtime& operator=(const Runtime&) = delete;
 
-  // Brings the program up: `early` runs before the toolkit is there and makes the application
-  // object, `late` when it is there, and opens the first window.
+  // Brings the program up: `early` runs before QApplication is there and registers the
+  // application object, `late` when it is there, and opens the first window.
   void Start(const std::function<void()>& early, const std::function<void()>& late);
   // Delivers events until Quit, and gives the exit status; 1 where the start left no window.
   int Run();

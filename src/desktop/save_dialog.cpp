@@ -34,7 +34,7 @@ bool MayReplace(QWidget& asking, const QString& path) {
   question.setText(QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
   question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   question.setDefaultButton(QMessageBox::No);
-  ModalDialog::Run(question, nullptr);
+  ModalDialog::Run(question);
   asking.activateWindow();
   return question.result() == QMessageBox::Yes;
 }
@@ -65,7 +65,7 @@ std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
   dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
 #endif
   dialog.selectFile(ToQt(proposed_name));
-  ModalDialog::Run(dialog, window);
+  Window::RunDialog(dialog, window);
   const QString path = dialog.selectedFiles().value(0);
   if (dialog.result() != QDialog::Accepted || path.isEmpty()) return std::nullopt;
   LastFolder() = QFileInfo(path).absolutePath();

@@ -24,6 +24,6 @@ class RuleWidget : public QWidget {
 
 }  // namespace
 
-Separator::Separator(Window& window) : ShapeControl(window, new RuleWidget) {}
+Separator::Separator(ControlOwner& owner) : ShapeControl(owner, new RuleWidget) {}
 
 }  // namespace fundlet

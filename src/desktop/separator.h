@@ -7,7 +7,7 @@ namespace fundlet {
 // A thin horizontal rule.
 class Separator : public ShapeControl {
  public:
-  explicit Separator(Window& window);
+  explicit Separator(ControlOwner& owner);
 };
 
 }  // namespace fundlet

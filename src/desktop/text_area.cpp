@@ -8,7 +8,6 @@
 #include <QTextCursor>
 
 #include "desktop/focus_reporting.h"
-#include "desktop/native_window.h"
 #include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 
@@ -56,7 +55,7 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
   }
   // A text that cannot be edited has no use for Return.
   bool NativeKey(QKeyEvent& event) const {
-    const bool used = static_cast<NativeWindow*>(window())->HandleKey(event);
+    const bool used = Owner().HandleKey(event);
     event.setAccepted(used);
     return used;
   }
@@ -66,10 +65,10 @@ AreaWidget& AreaOf(const Control& control) { return static_cast<AreaWidget&>(*co
 
 }  // namespace
 
-TextArea::TextArea(Window& window) : TextControl(window, new AreaWidget(window, *this)) {
+TextArea::TextArea(ControlOwner& owner) : TextControl(owner, new AreaWidget(owner, *this)) {
   AreaOf(*this).setTabChangesFocus(true);
   // No label stands beside it, so a screen reader tells it by its window.
-  AreaOf(*this).setAccessibleName(window.Native().windowTitle());
+  AreaOf(*this).setAccessibleName(owner.Content().window()->windowTitle());
 }
 
 std::string TextArea::Text() const {

@@ -10,7 +10,7 @@ namespace fundlet {
 // and lengths count characters.
 class TextArea : public TextControl {
  public:
-  explicit TextArea(Window& window);
+  explicit TextArea(ControlOwner& owner);
 
   std::string Text() const;
   void SetText(std::string_view text);

@@ -9,7 +9,8 @@
 
 #include "desktop/entry_widget.h"
 #include "desktop/focus_reporting.h"
-#include "desktop/native_window.h"
+#include "desktop/keys.h"
+#include "desktop/program_gate.h"
 #include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 #include "services/text.h"
@@ -20,7 +21,8 @@ namespace {
 
 class FieldWidget : public FocusReporting<EntryWidget> {
  public:
-  FieldWidget(Window& window, TextField& field) : FocusReporting(window, field), field_(field) {}
+  FieldWidget(ControlOwner& owner, TextField& field)
+      : FocusReporting(owner, field), field_(field) {}
 
   // The width that a text can have and be seen whole, the caret behind it included.
   int TextRoom() const {
@@ -50,10 +52,10 @@ class FieldWidget : public FocusReporting<EntryWidget> {
   // The toolkit's own menu asks the clipboard, whose holder may not answer.
   void contextMenuEvent(QContextMenuEvent* event) override {
     press_selected_all_ = false;  // the release goes to the menu
-    static_cast<NativeWindow*>(window())->ShowMenuAt("EditMenu", event->globalPos());
+    Owner().ShowEditMenu(event->globalPos());
   }
   void keyPressEvent(QKeyEvent* event) override {
-    if (ProgramUses(*event) || static_cast<NativeWindow*>(window())->HandleKey(*event)) {
+    if (ProgramUses(*event) || Owner().HandleKey(*event)) {
       event->accept();
     } else {
       FocusReporting::keyPressEvent(event);
@@ -87,7 +89,7 @@ Qt::Alignment FieldAlignment(std::int64_t alignment) {
 
 }  // namespace
 
-TextField::TextField(Window& window) : TextControl(window, new FieldWidget(window, *this)) {
+TextField::TextField(ControlOwner& owner) : TextControl(owner, new FieldWidget(owner, *this)) {
   FieldOf(*this).setFocusPolicy(Qt::StrongFocus);
   FieldOf(*this).Judge = [this](const QString& outcome) -> std::optional<QString> {
     if (!Pasting) return outcome;
@@ -113,7 +115,7 @@ std::string TextField::WidestText() const { return beyond_limit_ ? Text() : long
 
 void TextField::Paste() const { FieldOf(*this).PasteFrom(QClipboard::Clipboard); }
 
-bool TextField::HasFocus() const { return OwnerWindow().Focused() == this; }
+bool TextField::HasFocus() const { return Owner().Focused() == this; }
 
 void TextField::SetSelStart(std::int64_t start) { Select({start, 0}); }
 void TextField::SetSelLength(std::int64_t length) { Select({SelStart(), length}); }

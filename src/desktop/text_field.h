@@ -7,13 +7,10 @@
 
 namespace fundlet {
 
-// The code of the character that the keys for help give: the Help key, F1 and control-E.
-inline constexpr std::uint32_t kHelpKeyCode = 5;
-
 // A one-line text that the user can edit. Offsets and lengths count characters.
 class TextField : public TextControl {
  public:
-  explicit TextField(Window& window);
+  explicit TextField(ControlOwner& owner);
 
   std::string Text() const;
   // What the program writes stands, also where it is longer than the limit.

@@ -3,15 +3,16 @@
 #include <algorithm>
 #include <utility>
 
-#include <QApplication>
-#include <QPixmapCache>
+#include <QKeyEvent>
 
+#include "desktop/application.h"
 #include "desktop/edit_commands.h"
+#include "desktop/keys.h"
 #include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/program_gate.h"
+#include "desktop/push_button.h"
 #include "desktop/qt_text.h"
-#include "desktop/runtime.h"
 #include "desktop/screen.h"
 #include "desktop/text_area.h"
 
@@ -27,11 +28,11 @@ std::vector<Window*>& Stack() {
 
 }  // namespace
 
-Window::Window() : native_(std::make_unique<NativeWindow>(*this)) {}
+Window::Window() : native_(std::make_unique<NativeWindow>(static_cast<WindowEvents&>(*this))) {}
 
 Window::~Window() {
+  open_ = false;
   std::erase(Stack(), this);
-  focused_ = nullptr;
 }
 
 Window* Window::Front() { return Stack().empty() ? nullptr : Stack().back(); }
@@ -104,7 +105,8 @@ void Window::Show() {
 void Window::FirstShow() {
   shown_once_ = true;
   Control* first = ApplyTabOrder();
-  native_->ShowMenus();
+  native_->ShowMenus(MenuBar(),
+                     {[this] { EnableMenuItems(); }, [this](MenuItem& item) { Choose(item); }});
   if (centred_) Centre();
   native_->ShowFirst();
   native_->raise();
@@ -122,7 +124,7 @@ void Window::Centre() {
       std::max(screen.AvailableHeight() - kTitleBar - menus, native_->Smallest().height());
   if (Height() > room) {
     SetHeight(room);
-    ProgramGate::Instance().EnterWithin("", [this] { Event_Resized(); });
+    Resized();
   }
   SetLeft(screen.AvailableLeft() + (screen.AvailableWidth() - Width()) / 2);
   SetTop(screen.AvailableTop() + std::max(kTitleBar, (screen.AvailableHeight() - Height()) / 2));
@@ -175,13 +177,50 @@ void Window::Deactivated() {
   if (focused_ != nullptr && focused_->LosesFocusWithWindow()) FocusWent(*focused_);
 }
 
-void Window::DialogClosed() {
-  native_->activateWindow();
-  Activated();
+void Window::CloseAsked() {
+  ModalDialog::Dismiss(EndsProgram() ? nullptr : native_.get());
+  ProgramGate::Instance().Enter("", [this] { Close(); });
+}
+
+void Window::Resized() {
+  ProgramGate::Instance().EnterWithin("", [this] { Event_Resized(); });
+}
+
+bool Window::HandleKey(const QKeyEvent& event) {
+  const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool return_key = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  PushButton* button = nullptr;
+  if (plain && return_key) button = default_button_;
+  if (plain && event.key() == Qt::Key_Escape) button = cancel_button_;
+  if (button != nullptr && !event.isAutoRepeat()) button->Press();
+  return button != nullptr;
+}
+
+bool Window::KeyPressed(const QKeyEvent& event) {
+  bool used = HandleKey(event);
+  if (used) return true;
+  ProgramGate::Instance().EnterWithin("", [&] {
+    const std::string key = KeyText(event);
+    used = !key.empty() && Event_KeyDown(key);
+  });
+  return used;
+}
+
+void Window::ShowEditMenu(const QPoint& place) {
+  if (native_->Menus() != nullptr) native_->Menus()->ShowEditMenu(place);
+}
+
+QWidget& Window::Content() const { return native_->Content(); }
+
+void Window::RunDialog(QDialog& dialog, Window* window) {
+  ModalDialog::Run(dialog);
+  if (window == nullptr) return;
+  window->native_->activateWindow();
+  window->Activated();
 }
 
 void Window::FocusCame(Control& control) {
-  if (focused_ == &control) return;
+  if (!open_ || focused_ == &control) return;
   Control* before = std::exchange(focused_, &control);
   native_->Content().update();
   ProgramGate::Instance().EnterWithin("", [&] {
@@ -191,7 +230,7 @@ void Window::FocusCame(Control& control) {
 }
 
 void Window::FocusWent(Control& control) {
-  if (focused_ != &control) return;
+  if (!open_ || focused_ != &control) return;
   focused_ = nullptr;
   native_->Content().update();
   ProgramGate::Instance().EnterWithin("", [&] { control.FireLostFocus(); });
@@ -201,15 +240,15 @@ void Window::FocusCameAgain(Control& control) {
   ProgramGate::Instance().EnterWithin("", [&] { control.FireGotFocus(); });
 }
 
-bool Window::AbleByItself(const MenuItem& item) const {
+bool Window::HasHandler(const MenuItem& item) const {
   if (!item.AutoEnable) return false;
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return true;
-  if (IsEditCommand(item.Name)) return EditTarget(item.Name) != nullptr;
+  if (item.Edits != EditCommand::None) return EditTarget(item.Edits) != nullptr;
   return menu_handlers_.contains(item.Name);
 }
 
 // A text to read keeps its selection when the focus goes on to a button, and can still be copied.
-const Control* Window::EditTarget(const std::string& command) const {
+const Control* Window::EditTarget(EditCommand command) const {
   if (CanEdit(command, focused_)) return focused_;
   const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
     return dynamic_cast<TextArea*>(control.get()) != nullptr && CanEdit(command, control.get());
@@ -220,27 +259,33 @@ const Control* Window::EditTarget(const std::string& command) const {
 void Window::EnableMenuItems() {
   // While a message is open, the field may still show what the handler that waits has replaced.
   if (ModalDialog::IsOpen()) return;
-  MenuBar().ForEach([this](MenuItem& item) {
-    if (AbleByItself(item)) {
-      item.Enable();
-    } else {
-      item.Disable();
-    }
+  ProgramGate::Instance().EnterWithin("", [this] {
+    MenuBar().ForEach([this](MenuItem& item) {
+      if (HasHandler(item)) {
+        item.Enable();
+      } else {
+        item.Disable();
+      }
+    });
+    Event_EnableMenuItems();
   });
-  ProgramGate::Instance().EnterWithin("", [this] { Event_EnableMenuItems(); });
-  native_->ShowEnabling();
+  if (native_->Menus() != nullptr) native_->Menus()->ShowEnabling();
 }
 
 void Window::Choose(MenuItem& item) {
+  if (ModalDialog::IsOpen()) return;
   EnableMenuItems();
   if (!item.Enabled()) return;
-  if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) {
-    Quit(0);
-  } else if (const auto handler = menu_handlers_.find(item.Name); handler != menu_handlers_.end()) {
-    ProgramGate::Instance().Enter(item.Text, handler->second);
-  } else if (IsEditCommand(item.Name)) {
-    Edit(item.Name, EditTarget(item.Name));
-  }
+  ProgramGate::Instance().Enter(item.Text, [this, &item] {
+    if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) {
+      Quit(0);
+    } else if (const auto handler = menu_handlers_.find(item.Name);
+               handler != menu_handlers_.end()) {
+      handler->second();
+    } else {
+      Edit(item.Edits, EditTarget(item.Edits));
+    }
+  });
 }
 
 }  // namespace fundlet

@@ -11,12 +11,14 @@
 #include "desktop/control.h"
 #include "desktop/menu.h"
 #include "desktop/property_set.h"
+#include "desktop/window_events.h"
 #include "services/exceptions.h"
+
+class QDialog;
 
 namespace fundlet {
 
 class NativeWindow;
-class PushButton;
 
 // A top-level window with controls at fixed places. A program's window derives from it, makes its
 // controls in its constructor, and overrides the events it cares for. Sizes are those of the
@@ -24,7 +26,7 @@ class PushButton;
 //
 // No event of a window or control is delivered while another one is being handled, except for
 // those of the focus: it waits until that handler has returned.
-class Window : public PropertyTarget {
+class Window : public PropertyTarget, public ControlOwner, private WindowEvents {
  public:
   Window();
   ~Window() override;
@@ -81,39 +83,41 @@ class Window : public PropertyTarget {
 
   // What the rest of the desktop calls.
   NativeWindow& Native() const { return *native_; }
-  // The window was activated, by the system or because a dialog over it has closed.
-  void Activated();
-  void Deactivated();
-  // A dialog over the window has closed: the window is activated once the handler that showed it
-  // has returned.
-  void DialogClosed();
-  // The focus has come to a control, or gone from it, for good and not for the time of a menu.
-  void FocusCame(Control& control);
-  void FocusWent(Control& control);
-  // The program has given the focus to the control that has it.
-  void FocusCameAgain(Control& control);
-  Control* Focused() const { return focused_; }
-  void SetDefaultButton(PushButton* button) { default_button_ = button; }
-  void SetCancelButton(PushButton* button) { cancel_button_ = button; }
-  PushButton* DefaultButton() const { return default_button_; }
-  PushButton* CancelButton() const { return cancel_button_; }
+  // Shows a dialog over the window, or by itself where that is null, and returns when it has been
+  // answered. The window is activated once the handler that called this has returned.
+  static void RunDialog(QDialog& dialog, Window* window);
   // The pass that decides which menu items can be chosen now.
   void EnableMenuItems();
-  // Carries out a menu item that has been chosen with this window in front.
-  void Choose(MenuItem& item);
+
+  QWidget& Content() const override;
+  Control* Focused() const override { return focused_; }
+  void FocusCame(Control& control) override;
+  void FocusWent(Control& control) override;
+  void FocusCameAgain(Control& control) override;
+  void Deactivated() override;
+  void SetDefaultButton(PushButton& button) override { default_button_ = &button; }
+  void SetCancelButton(PushButton& button) override { cancel_button_ = &button; }
+  bool HandleKey(const QKeyEvent& event) override;
+  void ShowEditMenu(const QPoint& place) override;
 
  protected:
   std::string Described() const override;
 
  private:
+  void Activated() override;
+  void CloseAsked() override;
+  void Resized() override;
+  bool KeyPressed(const QKeyEvent& event) override;
   void FirstShow();
+  void Choose(MenuItem& item);  // carries it out, where it can be chosen
   void Centre();
   Control* ApplyTabOrder();  // gives the first control of the order, null where there is none
-  bool AbleByItself(const MenuItem& item) const;
-  const Control* EditTarget(const std::string& command) const;  // null where it can do nothing
+  bool HasHandler(const MenuItem& item) const;
+  const Control* EditTarget(EditCommand command) const;  // null where it can do nothing
 
-  std::unique_ptr<NativeWindow> native_;
+  // The widgets, which refer to their controls, go before these.
   std::vector<std::unique_ptr<Control>> controls_;
+  std::unique_ptr<NativeWindow> native_;
   std::map<std::string, std::function<bool()>, std::less<>> menu_handlers_;
   fundlet::MenuBar* menu_bar_ = nullptr;
   PushButton* default_button_ = nullptr;

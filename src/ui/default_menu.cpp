@@ -12,6 +12,7 @@ namespace fundlet {
 namespace {
 
 enum class ItemClass { Plain, Quit, Apple };
+using enum ItemClass;
 
 // One item, and the names of the items it lies under, from the bar downwards.
 struct ItemRow {
@@ -19,7 +20,8 @@ struct ItemRow {
   const char* name;
   const char* text;
   const char* shortcut = "";
-  ItemClass item_class = ItemClass::Plain;
+  ItemClass item_class = Plain;
+  EditCommand edits = EditCommand::None;
 };
 
 constexpr ItemRow kBeforeFile[] = {{{}, "UntitledMenu6", ""}};
@@ -31,19 +33,19 @@ constexpr ItemRow kFile[] = {
     {{"FileMenu"}, "FileParams", "Remember Parameters", "Cmd+P"},
     {{"FileMenu"}, "FileRestore", "Recall Parameters", "Cmd+R"},
     {{"FileMenu"}, "UntitledMenu4", "-"},
-    {{"FileMenu"}, "FileQuit", "Quit", "Cmd+Q", ItemClass::Quit},
-    {{"FileMenu"}, "AppAbout", "About Fundlet…", "", ItemClass::Apple},
+    {{"FileMenu"}, "FileQuit", "Quit", "Cmd+Q", Quit},
+    {{"FileMenu"}, "AppAbout", "About Fundlet…", "", Apple},
     {{"FileMenu"}, "UntitledMenu12", ""},
 };
 
 constexpr ItemRow kEdit[] = {
     {{}, "EditMenu", "Edit"},
-    {{"EditMenu"}, "EditUndo", "Undo", "Cmd+Z"},
+    {{"EditMenu"}, "EditUndo", "Undo", "Cmd+Z", Plain, EditCommand::Undo},
     {{"EditMenu"}, "UntitledMenu2", "-"},
-    {{"EditMenu"}, "EditCut", "Cut", "Cmd+X"},
-    {{"EditMenu"}, "EditCopy", "Copy", "Cmd+C"},
-    {{"EditMenu"}, "EditPaste", "Paste", "Cmd+V"},
-    {{"EditMenu"}, "EditClear", "Clear"},
+    {{"EditMenu"}, "EditCut", "Cut", "Cmd+X", Plain, EditCommand::Cut},
+    {{"EditMenu"}, "EditCopy", "Copy", "Cmd+C", Plain, EditCommand::Copy},
+    {{"EditMenu"}, "EditPaste", "Paste", "Cmd+V", Plain, EditCommand::Paste},
+    {{"EditMenu"}, "EditClear", "Clear", "", Plain, EditCommand::Clear},
     {{"EditMenu"}, "UntitledMenu1", "-"},
     {{"EditMenu"}, "EditSurvival", "Calculate life expectancy"},
     {{"EditMenu", "EditSurvival"}, "Survival2", "when 1/2 survive", "Cmd+2"},
@@ -54,7 +56,7 @@ constexpr ItemRow kEdit[] = {
     {{"EditMenu", "EditSurvival", "Survival8"}, "UntitledMenu9", ""},
     {{"EditMenu", "EditSurvival"}, "UntitledMenu8", ""},
     {{"EditMenu"}, "UntitledMenu7", ""},
-    {{"EditMenu"}, "UntitledMenu3", "", "", ItemClass::Apple},
+    {{"EditMenu"}, "UntitledMenu3", "", "", Apple},
 };
 
 constexpr ItemRow kBeforeHelp[] = {{{}, "UntitledMenu0", ""}};
@@ -65,8 +67,8 @@ constexpr ItemRow kHelp[] = {
 };
 
 std::unique_ptr<MenuItem> NewItem(ItemClass item_class) {
-  if (item_class == ItemClass::Quit) return std::make_unique<QuitMenuItem>();
-  if (item_class == ItemClass::Apple) return std::make_unique<AppleMenuItem>();
+  if (item_class == Quit) return std::make_unique<QuitMenuItem>();
+  if (item_class == Apple) return std::make_unique<AppleMenuItem>();
   return std::make_unique<MenuItem>();
 }
 
@@ -78,6 +80,7 @@ void Build(MenuBar& bar, std::span<const ItemRow> rows) {
     item->Text = row.text;
     item->Visible = true;
     item->KeyboardShortcut = row.shortcut;
+    item->Edits = row.edits;
     MenuItem* parent = &bar;
     for (const char* name : row.parents) {
       if (name != nullptr) parent = &parent->Child(name);

@@ -2,7 +2,6 @@
 
 #include "desktop/message_dialog.h"
 #include "desktop/window.h"
-#include "ui/help_window.h"
 
 namespace fundlet {
 

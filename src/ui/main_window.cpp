@@ -89,7 +89,7 @@ void aFundletWindow::Event_EnableMenuItems() {
 bool aFundletWindow::Event_KeyDown(const std::string& key) { return KeyDown(key); }
 
 bool aFundletWindow::KeyDown(const std::string& key) {
-  if (key != Chr(kHelpKeyCode)) return false;
+  if (key != App().HelpKey) return false;
   aHelpWindow::ShowHelp();
   return true;
 }
