@@ -21,7 +21,7 @@ void MyApplication::_EarlyStartup() {
 void MyApplication::_NewAppInstance() {
   static MyApplication application;
   application.Name = "Fundlet";
-  application.Version = FUNDLET_VERSION;
+  application.Version = std::string(FUNDLET_VERSION);  // g++ 12 warns of a literal of one character
   application.DesktopFile = "fundlet";
   application.IconFiles = ":/fundlet/fundlet-%1.png";
   application.HelpKey = Chr(kHelpKeyCode);

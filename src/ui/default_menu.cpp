@@ -11,8 +11,10 @@ namespace fundlet {
 
 namespace {
 
-enum class ItemClass { Plain, Quit, Apple };
-using enum ItemClass;
+template <typename ItemClass>
+std::unique_ptr<MenuItem> New() {
+  return std::make_unique<ItemClass>();
+}
 
 // One item, and the names of the items it lies under, from the bar downwards.
 struct ItemRow {
@@ -20,7 +22,7 @@ struct ItemRow {
   const char* name;
   const char* text;
   const char* shortcut = "";
-  ItemClass item_class = Plain;
+  std::unique_ptr<MenuItem> (*make)() = New<MenuItem>;
   EditCommand edits = EditCommand::None;
 };
 
@@ -33,19 +35,19 @@ constexpr ItemRow kFile[] = {
     {{"FileMenu"}, "FileParams", "Remember Parameters", "Cmd+P"},
     {{"FileMenu"}, "FileRestore", "Recall Parameters", "Cmd+R"},
     {{"FileMenu"}, "UntitledMenu4", "-"},
-    {{"FileMenu"}, "FileQuit", "Quit", "Cmd+Q", Quit},
-    {{"FileMenu"}, "AppAbout", "About Fundlet…", "", Apple},
+    {{"FileMenu"}, "FileQuit", "Quit", "Cmd+Q", New<QuitMenuItem>},
+    {{"FileMenu"}, "AppAbout", "About Fundlet…", "", New<AppleMenuItem>},
     {{"FileMenu"}, "UntitledMenu12", ""},
 };
 
 constexpr ItemRow kEdit[] = {
     {{}, "EditMenu", "Edit"},
-    {{"EditMenu"}, "EditUndo", "Undo", "Cmd+Z", Plain, EditCommand::Undo},
+    {{"EditMenu"}, "EditUndo", "Undo", "Cmd+Z", New<MenuItem>, EditCommand::Undo},
     {{"EditMenu"}, "UntitledMenu2", "-"},
-    {{"EditMenu"}, "EditCut", "Cut", "Cmd+X", Plain, EditCommand::Cut},
-    {{"EditMenu"}, "EditCopy", "Copy", "Cmd+C", Plain, EditCommand::Copy},
-    {{"EditMenu"}, "EditPaste", "Paste", "Cmd+V", Plain, EditCommand::Paste},
-    {{"EditMenu"}, "EditClear", "Clear", "", Plain, EditCommand::Clear},
+    {{"EditMenu"}, "EditCut", "Cut", "Cmd+X", New<MenuItem>, EditCommand::Cut},
+    {{"EditMenu"}, "EditCopy", "Copy", "Cmd+C", New<MenuItem>, EditCommand::Copy},
+    {{"EditMenu"}, "EditPaste", "Paste", "Cmd+V", New<MenuItem>, EditCommand::Paste},
+    {{"EditMenu"}, "EditClear", "Clear", "", New<MenuItem>, EditCommand::Clear},
     {{"EditMenu"}, "UntitledMenu1", "-"},
     {{"EditMenu"}, "EditSurvival", "Calculate life expectancy"},
     {{"EditMenu", "EditSurvival"}, "Survival2", "when 1/2 survive", "Cmd+2"},
@@ -56,7 +58,7 @@ constexpr ItemRow kEdit[] = {
     {{"EditMenu", "EditSurvival", "Survival8"}, "UntitledMenu9", ""},
     {{"EditMenu", "EditSurvival"}, "UntitledMenu8", ""},
     {{"EditMenu"}, "UntitledMenu7", ""},
-    {{"EditMenu"}, "UntitledMenu3", "", "", Apple},
+    {{"EditMenu"}, "UntitledMenu3", "", "", New<AppleMenuItem>},
 };
 
 constexpr ItemRow kBeforeHelp[] = {{{}, "UntitledMenu0", ""}};
@@ -66,15 +68,9 @@ constexpr ItemRow kHelp[] = {
     {{"HelpMenu"}, "HelpFundlet", "Fundlet Help…"},
 };
 
-std::unique_ptr<MenuItem> NewItem(ItemClass item_class) {
-  if (item_class == Quit) return std::make_unique<QuitMenuItem>();
-  if (item_class == Apple) return std::make_unique<AppleMenuItem>();
-  return std::make_unique<MenuItem>();
-}
-
 void Build(MenuBar& bar, std::span<const ItemRow> rows) {
   for (const ItemRow& row : rows) {
-    std::unique_ptr<MenuItem> item = NewItem(row.item_class);
+    std::unique_ptr<MenuItem> item = row.make();
     item->Name = row.name;
     item->AutoEnable = true;
     item->Text = row.text;
