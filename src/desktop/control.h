@@ -26,8 +26,9 @@ class ControlOwner {
   virtual void FocusCameAgain(Control& control) = 0;
   // The window is no longer the active one.
   virtual void Deactivated() = 0;
-  virtual void SetDefaultButton(PushButton& button) = 0;
-  virtual void SetCancelButton(PushButton& button) = 0;
+  // The button that Return presses, and the one that Escape presses; null for none.
+  virtual PushButton*& DefaultButton() = 0;
+  virtual PushButton*& CancelButton() = 0;
   // Presses the default or the cancel button where the key means that, but not for a key that is
   // held down. True where it means one of them.
   virtual bool HandleKey(const QKeyEvent& event) = 0;

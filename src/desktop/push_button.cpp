@@ -52,13 +52,18 @@ void PushButton::SetCaption(std::string_view caption) {
 }
 
 void PushButton::SetDefault(bool is_default) {
-  if (!is_default) return;
-  ButtonOf(*this).setDefault(true);
-  Owner().SetDefaultButton(*this);
+  ButtonOf(*this).setDefault(is_default);
+  PutIn(Owner().DefaultButton(), is_default);
 }
 
-void PushButton::SetCancel(bool is_cancel) {
-  if (is_cancel) Owner().SetCancelButton(*this);
+void PushButton::SetCancel(bool is_cancel) { PutIn(Owner().CancelButton(), is_cancel); }
+
+void PushButton::PutIn(PushButton*& place, bool is_there) {
+  if (is_there) {
+    place = this;
+  } else if (place == this) {
+    place = nullptr;
+  }
 }
 
 void PushButton::Press() { ButtonOf(*this).click(); }

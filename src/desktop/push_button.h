@@ -29,6 +29,9 @@ class PushButton : public TextControl {
  protected:
   std::string WidestText() const override { return Caption(); }
   int TextRoom() const override;
+
+ private:
+  void PutIn(PushButton*& place, bool is_there);
 };
 
 }  // namespace fundlet

@@ -71,6 +71,9 @@ void Window::_AddMenuHandler(const std::string& item_name, std::function<bool()>
 }
 
 void Window::_AddControl(const std::string& name, std::unique_ptr<Control> control) {
+  const bool taken = std::any_of(controls_.begin(), controls_.end(),
+                                 [&](const auto& other) { return other->Name() == name; });
+  if (taken) throw RuntimeException("The window has a control “" + name + "” already.");
   control->SetName(name);
   controls_.push_back(std::move(control));
 }

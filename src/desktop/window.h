@@ -50,7 +50,8 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   // Binds a method to the item of that name, for when it is chosen with this window in front.
   void _AddMenuHandler(const std::string& item_name, std::function<bool()> handler);
 
-  // Takes the control into the window's registry under its name.
+  // Takes the control into the window's registry under its name; RuntimeException where there is
+  // one of that name.
   void _AddControl(const std::string& name, std::unique_ptr<Control> control);
   // The control of that name; NilObjectException where there is none.
   Control& _ControlByName(std::string_view name) const;
@@ -95,8 +96,8 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   void FocusWent(Control& control) override;
   void FocusCameAgain(Control& control) override;
   void Deactivated() override;
-  void SetDefaultButton(PushButton& button) override { default_button_ = &button; }
-  void SetCancelButton(PushButton& button) override { cancel_button_ = &button; }
+  PushButton*& DefaultButton() override { return default_button_; }
+  PushButton*& CancelButton() override { return cancel_button_; }
   bool HandleKey(const QKeyEvent& event) override;
   void ShowEditMenu(const QPoint& place) override;
 

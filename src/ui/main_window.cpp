@@ -14,7 +14,6 @@
 #include "ui/about_panel.h"
 #include "ui/global_module.h"
 #include "ui/help_window.h"
-#include "ui/main_layout.h"
 
 namespace fundlet {
 
@@ -174,10 +173,6 @@ bool aFundletWindow::_FileSave_Action() {
 bool aFundletWindow::_HelpFundlet_Action() {
   aHelpWindow::ShowHelp();
   return false;
-}
-
-TextField& aFundletWindow::Field(FocusCode field) const {
-  return ControlOf<TextField>(main_layout::Field(field).field);
 }
 
 std::string aFundletWindow::Text(FocusCode field) const { return Field(field).Text(); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "desktop/label.h"
@@ -165,7 +166,7 @@ class aFundletWindow : public Window, private EntryForm {
   void ShowResult(const std::string& text) override;
   void Alert(const std::string& message) override;
 
-  TextField& Field(FocusCode field) const;
+  TextField& Field(FocusCode field) const { return *fields_[static_cast<std::size_t>(field) - 1]; }
   template <typename ItemClass>
   ItemClass& Item(const char* name) const;
   void PlaceOnScreen();
@@ -176,6 +177,7 @@ class aFundletWindow : public Window, private EntryForm {
   static bool KeyDown(const std::string& key);
 
   Plan plan_;
+  std::array<TextField*, kFocusCodes.size()> fields_ = {};  // in the order of their codes
 };
 
 template <typename ItemClass>
