@@ -8,7 +8,7 @@ namespace fundlet {
 // everything.
 class MyApplication : public Application {
  public:
-  // The steps of the start: before the toolkit is there, and after.
+  // The steps of the start: before Qt is there, and after.
   static void _EarlyStartup();
   static void _LateStartup();
 

@@ -2,7 +2,7 @@
 
 namespace fundlet {
 
-// Shows the toolkit's about box with the program's picture, name and version, over the frontmost
+// Shows Qt's about box with the program's picture, name and version, over the frontmost
 // window, until the user closes it.
 void ShowAboutBox();
 

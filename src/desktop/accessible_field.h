@@ -6,7 +6,7 @@ class QLineEdit;
 
 namespace fundlet {
 
-// A one-line text as screen readers see it. The toolkit's own says of each character that a run of
+// A one-line text as screen readers see it. Qt's own says of each character that a run of
 // like characters ends before it, and readers then leave the last one out.
 class AccessibleField : public QAccessibleWidget,
                         public QAccessibleTextInterface,

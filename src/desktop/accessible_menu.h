@@ -10,7 +10,7 @@ class QMenu;
 
 namespace fundlet {
 
-// An open menu as screen readers see it. The toolkit's own has no name, and gives the shortcut of
+// An open menu as screen readers see it. Qt's own has no name, and gives the shortcut of
 // an item in a form that some readers take for the way of keys to it, and do not speak.
 class AccessibleMenu : public QAccessibleWidget {
  public:

@@ -6,10 +6,10 @@ class QWidget;
 
 namespace fundlet {
 
-// From here on the toolkit asks the program what screen readers see of a widget.
+// From here on Qt asks the program what screen readers see of a widget.
 void InstallAccessibleInterfaces();
 
-// Tells screen readers what a widget that the toolkit does not know is for.
+// Tells screen readers what a widget that Qt does not know is for.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 }  // namespace fundlet

@@ -11,7 +11,7 @@ namespace fundlet {
 
 namespace {
 
-// The toolkit wraps no plain text, and a rich one anyhow.
+// Qt wraps no plain text, and a rich one anyhow.
 QString Wrapped(const QString& text) {
   constexpr qsizetype kLineLength = 80;
   QString wrapped = text;
@@ -76,7 +76,7 @@ void Control::SetFocus() {
     return;
   }
   native_->setFocus(Qt::OtherFocusReason);
-  // While the window is not the active one, the toolkit only notes where the focus is to be.
+  // While the window is not the active one, Qt only notes where the focus is to be.
   owner_.FocusCame(*this);
 }
 

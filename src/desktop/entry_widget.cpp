@@ -18,7 +18,7 @@ std::int64_t Length(const QString& text) {
   return CharactersOf(text, static_cast<int>(text.size()));
 }
 
-// Whether the toolkit enters the key's text. Control together with Alt is how some keyboards type.
+// Whether Qt enters the key's text. Control together with Alt is how some keyboards type.
 bool Types(const QKeyEvent& event) {
   const auto modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
   return !event.text().isEmpty() && event.text().at(0) >= ' ' && event.text().at(0) != '\x7F' &&
@@ -53,7 +53,7 @@ void EntryWidget::Write(const QString& text) {
   if (!hasFocus()) setCursorPosition(0);
 }
 
-// An assistive technology sets the text without the toolkit's taking that for the user's doing.
+// An assistive technology sets the text without Qt's taking that for the user's doing.
 void EntryWidget::Changed(const QString& text) {
   const bool fits = limit_ == 0 || Length(text) <= limit_ || text.size() < known_text_.size();
   if (std::exchange(known_change_, false) || fits) {
@@ -136,7 +136,7 @@ void EntryWidget::mouseReleaseEvent(QMouseEvent* event) {
   }
 }
 
-// The toolkit's own waits for a third click, which selects the whole text too.
+// Qt's own waits for a third click, which selects the whole text too.
 void EntryWidget::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   QLineEdit::mouseDoubleClickEvent(event);

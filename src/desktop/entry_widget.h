@@ -8,7 +8,7 @@
 
 namespace fundlet {
 
-// The toolkit's one-line text, with this program's care for what a hand puts into it. A limit holds
+// Qt's one-line text, with this program's care for what a hand puts into it. A limit holds
 // for what the user enters and never for what the program writes; what does not fit is refused with
 // a beep, and the text stays as it was. A text from elsewhere goes in whole or not at all: a paste
 // at the caret or over the selection, a drop and the middle button in the place of the whole text,

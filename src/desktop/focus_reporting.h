@@ -7,7 +7,7 @@
 
 namespace fundlet {
 
-// A widget of the toolkit that tells its window when the keyboard focus comes or goes. The time of
+// A widget of Qt that tells its window when the keyboard focus comes or goes. The time of
 // a menu is no loss of focus.
 template <typename Widget>
 class FocusReporting : public Widget {
@@ -18,18 +18,18 @@ class FocusReporting : public Widget {
   ControlOwner& Owner() const { return owner_; }
 
   void focusInEvent(QFocusEvent* event) override {
-    QFocusEvent toolkits(ForToolkit(*event));
-    Widget::focusInEvent(&toolkits);
+    QFocusEvent for_qt(ForQt(*event));
+    Widget::focusInEvent(&for_qt);
     // A window that comes back while a handler runs is given its activation afterwards, and that
     // decides where the focus is to be.
-    const bool toolkits_choice = event->reason() == Qt::ActiveWindowFocusReason &&
-                                 ProgramGate::Instance().Busy() && owner_.Focused() == nullptr;
-    if (!toolkits_choice) owner_.FocusCame(control_);
+    const bool chosen_by_qt = event->reason() == Qt::ActiveWindowFocusReason &&
+                              ProgramGate::Instance().Busy() && owner_.Focused() == nullptr;
+    if (!chosen_by_qt) owner_.FocusCame(control_);
   }
 
   void focusOutEvent(QFocusEvent* event) override {
-    QFocusEvent toolkits(ForToolkit(*event));
-    Widget::focusOutEvent(&toolkits);
+    QFocusEvent for_qt(ForQt(*event));
+    Widget::focusOutEvent(&for_qt);
     if (IsForMenu(*event)) return;
     if (event->reason() == Qt::ActiveWindowFocusReason) {
       owner_.Deactivated();
@@ -42,9 +42,9 @@ class FocusReporting : public Widget {
   static bool IsForMenu(const QFocusEvent& event) {
     return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
   }
-  // The toolkit's text fields keep their selection for the time of a popup, but not for that of the
+  // Qt's text fields keep their selection for the time of a popup, but not for that of the
   // menu bar, whose commands act on it all the same.
-  static QFocusEvent ForToolkit(const QFocusEvent& event) {
+  static QFocusEvent ForQt(const QFocusEvent& event) {
     return QFocusEvent(event.type(), IsForMenu(event) ? Qt::PopupFocusReason : event.reason());
   }
 

@@ -24,7 +24,7 @@ namespace fundlet {
 
 namespace {
 
-// How often a computation lets the toolkit work. The yields between two looks at the clock take
+// How often a computation lets Qt work. The yields between two looks at the clock take
 // some tenths of a millisecond.
 constexpr qint64 kPumpMilliseconds = 8;
 constexpr int kYieldsPerLook = 20'000;
@@ -126,7 +126,7 @@ void HeldInput::StopAwaiting() {
   ScheduleReplay();
 }
 
-// Where the halves of a repetition reach the toolkit apart, it takes them for a release and a fresh
+// Where the halves of a repetition reach Qt apart, it takes them for a release and a fresh
 // press. Their times tell: no hand lets go and presses again within one millisecond.
 bool HeldInput::IsUntoldRepeat(QObject* object, const QEvent& event) {
   if (!IsKey(event) || !object->isWindowType()) return false;
@@ -138,7 +138,7 @@ bool HeldInput::IsUntoldRepeat(QObject* object, const QEvent& event) {
   return event.type() != QEvent::KeyRelease && !key.isAutoRepeat() && stroke == last_release_;
 }
 
-// A repetition that the toolkit has not told as one: told now.
+// A repetition that Qt has not told as one: told now.
 void HeldInput::TellRepeat(QObject* object, QEvent& event) {
   event.accept();
   if (event.type() != QEvent::KeyPress) return;

@@ -12,7 +12,7 @@
 
 namespace fundlet {
 
-// What the user does while a computation runs. The yields of the computation let the toolkit paint
+// What the user does while a computation runs. The yields of the computation let Qt paint
 // and move on every few milliseconds; the keys, clicks and requests to close that come meanwhile
 // are held, and handed on in their order when the handler that computes has returned. The gesture
 // that cancels (Escape, or Ctrl and full stop; Cmd on a Mac) is the exception: it takes effect at

@@ -16,7 +16,7 @@ namespace {
 
 QString Escaped(const std::string& text) { return ToQt(text).replace('&', "&&"); }
 
-// The toolkit's name for the Cmd key is Ctrl; it puts the platform's own key in its place.
+// Qt's name for the Cmd key is Ctrl; it puts the platform's own key in its place.
 QKeySequence Shortcut(const MenuItem& item) {
   return QKeySequence::fromString(ToQt(item.KeyboardShortcut).replace("Cmd", "Ctrl"),
                                   QKeySequence::PortableText);

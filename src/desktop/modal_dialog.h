@@ -8,7 +8,7 @@ class QWidget;
 namespace fundlet {
 
 // A dialog that the user has to answer before working on in the program's windows. It is not modal
-// in the toolkit's sense, because the toolkit then refuses a window beneath to be closed: here the
+// (Qt::ApplicationModal), because Qt then refuses a window beneath to be closed: here the
 // windows take no input while it is open, but closing one dismisses the dialog and goes ahead.
 class ModalDialog {
  public:

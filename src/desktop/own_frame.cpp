@@ -165,9 +165,9 @@ FrameWidget* FrameOf(const QWidget& window) {
 
 bool OwnFrame::PutRound(QWidget& window) {
   QWindow* native = window.windowHandle();
-  const bool toolkit_draws = QGuiApplication::platformName().startsWith("wayland") &&
-                             native != nullptr && native->frameMargins().top() > 0;
-  if (!toolkit_draws) return FrameOf(window) != nullptr;
+  const bool qt_draws = QGuiApplication::platformName().startsWith("wayland") &&
+                        native != nullptr && native->frameMargins().top() > 0;
+  if (!qt_draws) return FrameOf(window) != nullptr;
   native->setFlags(native->flags() | Qt::FramelessWindowHint);
   new FrameWidget(window);
   // A dialog settles its size anew for the frame.

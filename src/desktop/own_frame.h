@@ -7,7 +7,7 @@ class QWidget;
 namespace fundlet {
 
 // A frame of the program's own: a title to move the window by, a close box, and a minimise box
-// where the window has one. It stands where the toolkit would draw the frame, which then has a zoom
+// where the window has one. It stands where Qt would draw the frame, which then has a zoom
 // box whatever the window asks for.
 class OwnFrame {
  public:

@@ -18,7 +18,7 @@ class ProgramStyle : public QProxyStyle {
   void polish(QPalette& palette) override;
   using QProxyStyle::polish;
 
-  // The toolkit keeps what it has drawn under names in which the identity of the palette has a
+  // QPixmapCache keeps what was drawn under names in which QPalette::cacheKey() has a
   // part, every window has a palette of another identity, and the names are kept for ever. Here
   // equal palettes are one, so that a window opened again and again takes no more memory.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -33,7 +33,7 @@ class ProgramStyle : public QProxyStyle {
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
 
-  // The toolkit's picture for a menu bar without room is a file, and reading any such file loads
+  // Qt's picture for a menu bar without room is a file, and reading any such file loads
   // its plug-ins for pictures, which the opening would wait for.
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                      const QWidget* widget) const override;

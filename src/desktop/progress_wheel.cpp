@@ -17,7 +17,7 @@ constexpr int kMillisecondsPerSpoke = 60;
 class WheelWidget : public QWidget {
  public:
   WheelWidget() {
-    // Before the name, which has the toolkit make and keep what a screen reader sees.
+    // Before the name, which has Qt make and keep what a screen reader sees.
     SetAccessibleRole(*this, QAccessible::Animation);
     setAccessibleName("Busy");
   }

@@ -18,7 +18,7 @@ namespace fundlet {
 
 namespace {
 
-// Never destroyed: where the process is ended from within the toolkit, as when its display goes, no
+// Never destroyed: where the process is ended from within Qt, as when its display goes, no
 // window may be touched any more.
 auto& implicit_instances = *new std::map<std::string, std::unique_ptr<Window>>;
 
@@ -47,7 +47,7 @@ struct Runtime::Parts {
   std::string program;
   int argument_count = 1;
   char* arguments[2] = {program.data(), nullptr};
-  std::unique_ptr<QApplication> toolkit;
+  std::unique_ptr<QApplication> application;
   std::future<void> font_search;  // waits for its end when it goes
   std::unique_ptr<HeldInput> held_input;
   std::unique_ptr<ScreenReader> screen_reader;
@@ -71,8 +71,8 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   // The style whose controls fit the heights of the layout.
   QApplication::setStyle(new ProgramStyle);
 #endif
-  parts_->toolkit = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
-  // The toolkit's search for fonts takes a good part of the opening, and runs beside the connection
+  parts_->application = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
+  // Qt's search for fonts takes a good part of the opening, and runs beside the connection
   // to the desktop from here on. Nothing of the program's own leaves this thread.
   parts_->font_search = std::async([] { QFontDatabase::families(); });
   QApplication::setApplicationName(ToQt(App().Name));
@@ -86,12 +86,12 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   };
   ProgramGate::Instance().SetHooks(
       {App().Report, show_enabling, [this] { parts_->held_input->ScheduleReplay(); }});
-  parts_->toolkit->installEventFilter(parts_->end_requests.get());
+  parts_->application->installEventFilter(parts_->end_requests.get());
   ProgramGate::Instance().Enter("Start", late);
 }
 
 int Runtime::Run() {
-  // The toolkit forgets an end that was asked for before its loop runs.
+  // Qt forgets an end that was asked for before its loop runs.
   if (EndStatus()) return *EndStatus();
   if (Window::Front() == nullptr) return 1;
   return QApplication::exec();

@@ -39,7 +39,7 @@ bool MayReplace(QWidget& asking, const QString& path) {
   return question.result() == QMessageBox::Yes;
 }
 
-// The toolkit's own question about a file that is there already would keep the windows beneath from
+// Qt's own question about a file that is there already would keep the windows beneath from
 // being closed.
 class SaveWidget : public QFileDialog {
  public:

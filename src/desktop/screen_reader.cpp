@@ -47,7 +47,7 @@ bool ScreenReader::Keeps(const QAccessibleEvent& event) {
       if (whole) TellSoon();
       return whole;
     case QAccessible::PopupMenuEnd:
-      // The toolkit does not tell who has the keys again.
+      // Qt does not tell who has the keys again.
       QMetaObject::invokeMethod(this, &ScreenReader::MenuHasClosed, Qt::QueuedConnection);
       return false;
     case QAccessible::StateChanged:
@@ -116,7 +116,7 @@ ScreenReader::Known ScreenReader::StateOf(QObject* object) {
   return known;
 }
 
-// The toolkit calls the handler for every event, and has no other way past it.
+// Qt calls the handler for every event, and has no other way past it.
 void ScreenReader::Send(QAccessibleEvent& event) {
   QAccessible::installUpdateHandler(nullptr);
   QAccessible::updateAccessibility(&event);

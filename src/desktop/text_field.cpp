@@ -49,7 +49,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
     Owner().FocusWent(field_);
     activateWindow();
   }
-  // The toolkit's own menu asks the clipboard, whose holder may not answer.
+  // Qt's own menu asks the clipboard, whose holder may not answer.
   void contextMenuEvent(QContextMenuEvent* event) override {
     press_selected_all_ = false;  // the release goes to the menu
     Owner().ShowEditMenu(event->globalPos());

@@ -27,7 +27,7 @@ class Hand : public StartedTest {
     QGuiApplication::clipboard()->setText(text);
     user::Shortcut(Qt::Key_V);
   }
-  // A repetition. Where it is not told as one, the toolkit takes its halves for a release and a
+  // A repetition. Where it is not told as one, Qt takes its halves for a release and a
   // press of their own.
   static void Repeat(QWidget& window, Qt::Key key, bool told, Qt::KeyboardModifiers modifiers = {},
                      const QString& text = "") {

@@ -24,9 +24,9 @@
 
 namespace fundlet {
 
-// What a person does at the keyboard and with the mouse. Every event goes to a native window of the
-// toolkit, so that shortcuts, focus and popups take their real way; each action returns when what
-// follows from it is done.
+// What a person does at the keyboard and with the mouse. Every event goes to a QWindow, so that
+// shortcuts, focus and popups take their real way; each action returns when what follows from it is
+// done.
 namespace user {
 
 void Settle();
