@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QWidget>
 
-// What the toolkit itself costs: a window of the same size with nothing in it.
+// What Qt itself costs: a window of the same size with nothing in it.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QWidget window;

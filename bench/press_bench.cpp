@@ -52,7 +52,7 @@ void Key(aFundletWindow& window, Qt::Key key) {
 }
 
 // From the key stroke in the open window to the painted result: the reading of the fields, the
-// solve with its yields, the busy wheel, and all that the toolkit then has to do.
+// solve with its yields, the busy wheel, and all that Qt then has to do.
 void Press(benchmark::State& state) {
   aFundletWindow& window = aFundletWindow::Instance();
   TypeIn(window, TheLongPlan());
