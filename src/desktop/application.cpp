@@ -2,17 +2,10 @@
 
 #include <QGuiApplication>
 
-#include "desktop/program_gate.h"
+#include "desktop/run_state.h"
 #include "services/exceptions.h"
 
 namespace fundlet {
-
-namespace {
-
-Application* registered_application = nullptr;
-std::optional<int> end_status;
-
-}  // namespace
 
 void Application::_SetSupportsHiDPI(bool supported) {
   if (!supported) return;
@@ -21,25 +14,16 @@ void Application::_SetSupportsHiDPI(bool supported) {
 }
 
 Application& App() {
-  if (registered_application == nullptr) {
-    throw NilObjectException("The program has not started yet.");
-  }
-  return *registered_application;
+  if (Application* application = RunState::Now().application) return *application;
+  throw NilObjectException("There is no application object yet.");
 }
 
-void RegisterApplication(Application& application) {
-  registered_application = &application;
-  end_status.reset();
-}
-
-void ForgetApplication() { registered_application = nullptr; }
+void RegisterApplication(Application& application) { RunState::Now().application = &application; }
 
 void Quit(int status) {
-  ProgramGate::Instance().Shut();
-  end_status = status;
+  Gate().Shut();
+  RunState::Now().end_status = status;
   QCoreApplication::exit(status);
 }
-
-std::optional<int> EndStatus() { return end_status; }
 
 }  // namespace fundlet

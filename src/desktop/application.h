@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
 
 namespace fundlet {
@@ -29,11 +28,8 @@ class Application {
 // The registered application object; NilObjectException before there is one.
 Application& App();
 void RegisterApplication(Application& application);
-void ForgetApplication();
 
 // Asks the event loop to end; the process then ends with the given status.
 void Quit(int status);
-// The status, once the end has been asked for in this run.
-std::optional<int> EndStatus();
 
 }  // namespace fundlet

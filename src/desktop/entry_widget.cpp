@@ -7,8 +7,8 @@
 #include <QKeyEvent>
 #include <QMimeData>
 
-#include "desktop/program_gate.h"
 #include "desktop/qt_text.h"
+#include "desktop/run_state.h"
 
 namespace fundlet {
 
@@ -34,7 +34,7 @@ bool IsHeldCommand(const QKeyEvent& event) {
 
 // A drop while a handler runs, or a message is open, would change what the handler works on.
 bool TakesDrop(const QLineEdit& field, const QDropEvent& event) {
-  return event.mimeData()->hasText() && !field.isReadOnly() && !ProgramGate::Instance().Busy();
+  return event.mimeData()->hasText() && !field.isReadOnly() && !Gate().Busy();
 }
 
 }  // namespace

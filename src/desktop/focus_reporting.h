@@ -3,7 +3,7 @@
 #include <QFocusEvent>
 
 #include "desktop/control.h"
-#include "desktop/program_gate.h"
+#include "desktop/run_state.h"
 
 namespace fundlet {
 
@@ -22,8 +22,8 @@ class FocusReporting : public Widget {
     Widget::focusInEvent(&for_qt);
     // A window that comes back while a handler runs is given its activation afterwards, and that
     // decides where the focus is to be.
-    const bool chosen_by_qt = event->reason() == Qt::ActiveWindowFocusReason &&
-                              ProgramGate::Instance().Busy() && owner_.Focused() == nullptr;
+    const bool chosen_by_qt = event->reason() == Qt::ActiveWindowFocusReason && Gate().Busy() &&
+                              owner_.Focused() == nullptr;
     if (!chosen_by_qt) owner_.FocusCame(control_);
   }
 

@@ -3,13 +3,12 @@
 #include <utility>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 
 #include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/own_frame.h"
-#include "desktop/program_gate.h"
+#include "desktop/run_state.h"
 #include "services/background.h"
 
 // The road that the keys take in Qt before they reach a widget, as its QTest takes it for keys that
@@ -31,8 +30,6 @@ constexpr int kYieldsPerLook = 20'000;
 
 // How long a click waits for the activation of its window, which may not come.
 constexpr int kPatienceMilliseconds = 200;
-
-HeldInput* instance = nullptr;
 
 bool IsUserInput(const QEvent& event) {
   switch (event.type()) {
@@ -82,33 +79,35 @@ bool IsCancelGesture(const QEvent& event) {
 }  // namespace
 
 HeldInput::HeldInput() {
-  instance = this;
+  RunState::Now().held_input = this;
   QCoreApplication::instance()->installEventFilter(this);
   patience_.setSingleShot(true);
   patience_.setInterval(kPatienceMilliseconds);
   connect(&patience_, &QTimer::timeout, this, &HeldInput::StopAwaiting);
-  SetBackgroundTask(&HeldInput::Pump);
+  SetBackgroundTask(&HeldInput::Look);
 }
 
 HeldInput::~HeldInput() {
   SetBackgroundTask(nullptr);
-  instance = nullptr;
+  RunState::Now().held_input = nullptr;
 }
 
-int HeldInput::Pump() {
-  static QElapsedTimer since_last;
-  const bool due = !since_last.isValid() || since_last.elapsed() >= kPumpMilliseconds;
-  if (due && ProgramGate::Instance().Busy() && !instance->pumping_) {
-    instance->pumping_ = true;
-    QCoreApplication::processEvents();
-    instance->pumping_ = false;
-    since_last.start();
-  }
+int HeldInput::Look() {
+  RunState::Now().held_input->PumpIfDue();
   return kYieldsPerLook;
 }
 
+void HeldInput::PumpIfDue() {
+  const bool due = !since_pump_.isValid() || since_pump_.elapsed() >= kPumpMilliseconds;
+  if (!due || pumping_ || !Gate().Busy()) return;
+  pumping_ = true;
+  QCoreApplication::processEvents();
+  pumping_ = false;
+  since_pump_.start();
+}
+
 bool HeldInput::MustHold() const {
-  const bool behind_held = !held_.empty() && !replaying_ && !ProgramGate::Instance().Busy();
+  const bool behind_held = !held_.empty() && !replaying_ && !Gate().Busy();
   return pumping_ || awaited_ != nullptr || behind_held;
 }
 
@@ -194,7 +193,7 @@ void HeldInput::ScheduleReplay() {
 void HeldInput::ReplayNext() {
   replay_scheduled_ = false;
   // The gate calls again when it is idle.
-  if (held_.empty() || awaited_ != nullptr || ProgramGate::Instance().Busy()) return;
+  if (held_.empty() || awaited_ != nullptr || Gate().Busy()) return;
   const Held next = std::move(held_.front());
   held_.pop_front();
   if (next.receiver != nullptr) {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
@@ -35,7 +36,8 @@ class HeldInput : public QObject {
     std::unique_ptr<QEvent> event;
   };
 
-  static int Pump();
+  static int Look();
+  void PumpIfDue();
   bool IsUntoldRepeat(QObject* object, const QEvent& event);
   static void TellRepeat(QObject* object, QEvent& event);
   bool MustHold() const;
@@ -49,6 +51,7 @@ class HeldInput : public QObject {
   QPointer<QWindow> awaited_;  // the window that a held click activates
   QTimer patience_;
   std::pair<quint32, quint64> last_release_;  // the key, and when
+  QElapsedTimer since_pump_;
   bool pumping_ = false;
   bool replaying_ = false;
   bool replay_scheduled_ = false;

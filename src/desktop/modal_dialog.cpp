@@ -12,16 +12,13 @@
 
 #include "desktop/native_window.h"
 #include "desktop/own_frame.h"
+#include "desktop/run_state.h"
 
 namespace fundlet {
 
 namespace {
 
-// The open dialogs, the latest last.
-std::vector<QDialog*>& OpenDialogs() {
-  static std::vector<QDialog*> dialogs;
-  return dialogs;
-}
+std::vector<QDialog*>& OpenDialogs() { return RunState::Now().dialogs; }
 
 // A dialog while it is open.
 class OpenDialog {

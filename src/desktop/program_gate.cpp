@@ -26,11 +26,6 @@ std::string Reason(const std::exception_ptr& failure) {
 
 }  // namespace
 
-ProgramGate& ProgramGate::Instance() {
-  static ProgramGate gate;
-  return gate;
-}
-
 void ProgramGate::Report(const std::string& what, const std::exception_ptr& failure) noexcept {
   try {
     const std::string command = what.empty() ? what : "“" + what + "” could not be carried out. ";
@@ -83,11 +78,6 @@ void ProgramGate::RunWaiting() {
 
 void ProgramGate::Shut() {
   shut_ = true;
-  waiting_.clear();
-}
-
-void ProgramGate::Reopen() {
-  shut_ = false;
   waiting_.clear();
 }
 

@@ -12,8 +12,6 @@ namespace fundlet {
 // ends here, in a report to the user, and never passes through Qt.
 class ProgramGate {
  public:
-  static ProgramGate& Instance();
-
   // Runs the handler now, or after the one that is running. `what` names the command for the
   // user, empty for what is no command of theirs.
   void Enter(const std::string& what, std::function<void()> handler);
@@ -32,7 +30,6 @@ class ProgramGate {
   // The program is ending: nothing that waits is run any more.
   void Shut();
   bool IsShut() const { return shut_; }
-  void Reopen();
 
  private:
   struct Entry {

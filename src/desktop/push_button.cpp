@@ -36,7 +36,7 @@ PushButton::PushButton(ControlOwner& owner) : TextControl(owner, new ButtonWidge
   button.setFocusPolicy(Qt::TabFocus);
   button.setAutoDefault(false);
   QObject::connect(&button, &QPushButton::clicked, &button, [this] {
-    ProgramGate::Instance().Enter(Caption(), [this] {
+    Gate().Enter(Caption(), [this] {
       if (Action) Action(*this);
     });
   });

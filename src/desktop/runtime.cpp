@@ -1,7 +1,6 @@
 #include "desktop/runtime.h"
 
 #include <future>
-#include <map>
 #include <utility>
 
 #include <QApplication>
@@ -9,18 +8,14 @@
 
 #include "desktop/held_input.h"
 #include "desktop/modal_dialog.h"
-#include "desktop/program_gate.h"
 #include "desktop/program_style.h"
 #include "desktop/qt_text.h"
+#include "desktop/run_state.h"
 #include "desktop/screen_reader.h"
 
 namespace fundlet {
 
 namespace {
-
-// Never destroyed: where the process is ended from within Qt, as when its display goes, no
-// window may be touched any more.
-auto& implicit_instances = *new std::map<std::string, std::unique_ptr<Window>>;
 
 // An end that the desktop asks for, as that of its session, closes an open message like any answer.
 // It has to be the program's end too, also while the start waits for that answer.
@@ -36,7 +31,7 @@ class EndRequests : public QObject {
 
 Window& ImplicitInstance(const std::string& class_name,
                          const std::function<std::unique_ptr<Window>()>& make) {
-  std::unique_ptr<Window>& instance = implicit_instances[class_name];
+  std::shared_ptr<Window>& instance = RunState::Now().implicit_instances[class_name];
   if (!instance) instance = make();
   return *instance;
 }
@@ -44,6 +39,7 @@ Window& ImplicitInstance(const std::string& class_name,
 struct Runtime::Parts {
   explicit Parts(std::string name) : program(std::move(name)) {}
 
+  RunState state;  // goes last
   std::string program;
   int argument_count = 1;
   char* arguments[2] = {program.data(), nullptr};
@@ -54,15 +50,11 @@ struct Runtime::Parts {
   std::unique_ptr<QObject> end_requests = std::make_unique<EndRequests>();
 };
 
-Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {
-  ProgramGate::Instance().Reopen();
-}
+Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {}
 
 Runtime::~Runtime() {
-  ProgramGate::Instance().Shut();
-  ProgramGate::Instance().SetHooks({});
-  implicit_instances.clear();
-  ForgetApplication();
+  Gate().Shut();
+  parts_->state.implicit_instances.clear();
 }
 
 void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {
@@ -84,15 +76,14 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   const auto show_enabling = [] {
     if (Window* front = Window::Front(); front != nullptr) front->EnableMenuItems();
   };
-  ProgramGate::Instance().SetHooks(
-      {App().Report, show_enabling, [this] { parts_->held_input->ScheduleReplay(); }});
+  Gate().SetHooks({App().Report, show_enabling, [this] { parts_->held_input->ScheduleReplay(); }});
   parts_->application->installEventFilter(parts_->end_requests.get());
-  ProgramGate::Instance().Enter("Start", late);
+  Gate().Enter("Start", late);
 }
 
 int Runtime::Run() {
   // Qt forgets an end that was asked for before its loop runs.
-  if (EndStatus()) return *EndStatus();
+  if (parts_->state.end_status) return *parts_->state.end_status;
   if (Window::Front() == nullptr) return 1;
   return QApplication::exec();
 }

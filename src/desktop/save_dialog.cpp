@@ -8,20 +8,16 @@
 #include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/qt_text.h"
+#include "desktop/run_state.h"
 #include "desktop/window.h"
 
 namespace fundlet {
 
 namespace {
 
-// Where the last file of this run went.
-QString& LastFolder() {
-  static QString folder;
-  return folder;
-}
-
 QString StartFolder() {
-  if (!LastFolder().isEmpty() && QDir(LastFolder()).exists()) return LastFolder();
+  const QString last = ToQt(RunState::Now().save_folder);
+  if (!last.isEmpty() && QDir(last).exists()) return last;
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return QDir(documents).exists() ? documents : QDir::homePath();
 }
@@ -68,7 +64,7 @@ std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
   Window::RunDialog(dialog, window);
   const QString path = dialog.selectedFiles().value(0);
   if (dialog.result() != QDialog::Accepted || path.isEmpty()) return std::nullopt;
-  LastFolder() = QFileInfo(path).absolutePath();
+  RunState::Now().save_folder = FromQt(QFileInfo(path).absolutePath());
   const QByteArray name = path.toUtf8();
   return FolderItem(std::u8string(name.begin(), name.end()));
 }

@@ -7,12 +7,11 @@
 #include <QWidget>
 
 #include "desktop/accessible_role.h"
+#include "desktop/run_state.h"
 
 namespace fundlet {
 
 namespace {
-
-ScreenReader* instance = nullptr;
 
 bool ChangesNothing(const QAccessibleEvent& event) {
   if (event.type() != QAccessible::TextUpdated) return false;
@@ -23,18 +22,18 @@ bool ChangesNothing(const QAccessibleEvent& event) {
 }  // namespace
 
 ScreenReader::ScreenReader() {
-  instance = this;
+  RunState::Now().screen_reader = this;
   InstallAccessibleInterfaces();
   QAccessible::installUpdateHandler(&ScreenReader::OnEvent);
 }
 
 ScreenReader::~ScreenReader() {
   QAccessible::installUpdateHandler(nullptr);
-  instance = nullptr;
+  RunState::Now().screen_reader = nullptr;
 }
 
 void ScreenReader::OnEvent(QAccessibleEvent* event) {
-  if (!instance->Keeps(*event)) Send(*event);
+  if (!RunState::Now().screen_reader->Keeps(*event)) Send(*event);
 }
 
 bool ScreenReader::Keeps(const QAccessibleEvent& event) {
@@ -156,9 +155,10 @@ void ScreenReader::TellSelection(const Known& before, const Known& now) {
 }
 
 void ScreenReader::Announce(QWidget& widget, const QString& text) {
-  if (instance == nullptr || !QAccessible::isActive() || !widget.isActiveWindow()) return;
-  instance->announcements_.push_back({&widget, text});
-  instance->TellSoon();
+  ScreenReader* reader = RunState::Now().screen_reader;
+  if (reader == nullptr || !QAccessible::isActive() || !widget.isActiveWindow()) return;
+  reader->announcements_.push_back({&widget, text});
+  reader->TellSoon();
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)

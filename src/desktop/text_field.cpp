@@ -10,9 +10,9 @@
 #include "desktop/entry_widget.h"
 #include "desktop/focus_reporting.h"
 #include "desktop/keys.h"
-#include "desktop/program_gate.h"
 #include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
+#include "desktop/run_state.h"
 #include "services/text.h"
 
 namespace fundlet {
@@ -69,7 +69,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
     bool used = false;
     const std::string key = KeyText(event);
     if (key.empty() || !field_.KeyDown) return used;
-    ProgramGate::Instance().EnterWithin("", [&] { used = field_.KeyDown(field_, key); });
+    Gate().EnterWithin("", [&] { used = field_.KeyDown(field_, key); });
     return used;
   }
 

@@ -10,32 +10,25 @@
 #include "desktop/keys.h"
 #include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
-#include "desktop/program_gate.h"
 #include "desktop/push_button.h"
 #include "desktop/qt_text.h"
+#include "desktop/run_state.h"
 #include "desktop/screen.h"
 #include "desktop/text_area.h"
 
 namespace fundlet {
 
-namespace {
-
-// The visible windows, the frontmost last.
-std::vector<Window*>& Stack() {
-  static std::vector<Window*> stack;
-  return stack;
-}
-
-}  // namespace
-
 Window::Window() : native_(std::make_unique<NativeWindow>(static_cast<WindowEvents&>(*this))) {}
 
 Window::~Window() {
   open_ = false;
-  std::erase(Stack(), this);
+  std::erase(RunState::Now().windows, this);
 }
 
-Window* Window::Front() { return Stack().empty() ? nullptr : Stack().back(); }
+Window* Window::Front() {
+  const std::vector<Window*>& windows = RunState::Now().windows;
+  return windows.empty() ? nullptr : windows.back();
+}
 
 int Window::Width() const { return native_->ContentSize().width(); }
 int Window::Height() const { return native_->ContentSize().height(); }
@@ -87,11 +80,11 @@ Control& Window::_ControlByName(std::string_view name) const {
 
 void Window::Open() {
   open_ = true;
-  ProgramGate::Instance().EnterWithin("", [this] { Event_Open(); });
+  Gate().EnterWithin("", [this] { Event_Open(); });
 }
 
 void Window::Show() {
-  if (!open_ || ProgramGate::Instance().IsShut()) return;
+  if (!open_ || Gate().IsShut()) return;
   if (!shown_once_) {
     FirstShow();
     return;
@@ -155,8 +148,8 @@ void Window::Close() {
   if (!open_) return;
   open_ = false;
   native_->hide();
-  std::erase(Stack(), this);
-  ProgramGate::Instance().EnterWithin("", [this] { Event_Close(); });
+  std::erase(RunState::Now().windows, this);
+  Gate().EnterWithin("", [this] { Event_Close(); });
 }
 
 void Window::ClearFocus() {
@@ -166,11 +159,11 @@ void Window::ClearFocus() {
 
 void Window::Activated() {
   if (!open_) return;
-  std::erase(Stack(), this);
-  Stack().push_back(this);
+  std::erase(RunState::Now().windows, this);
+  RunState::Now().windows.push_back(this);
   if (activation_due_) return;
   activation_due_ = true;
-  ProgramGate::Instance().Enter("", [this] {
+  Gate().Enter("", [this] {
     activation_due_ = false;
     if (open_) Event_Activate();
   });
@@ -182,11 +175,11 @@ void Window::Deactivated() {
 
 void Window::CloseAsked() {
   ModalDialog::Dismiss(EndsProgram() ? nullptr : native_.get());
-  ProgramGate::Instance().Enter("", [this] { Close(); });
+  Gate().Enter("", [this] { Close(); });
 }
 
 void Window::Resized() {
-  ProgramGate::Instance().EnterWithin("", [this] { Event_Resized(); });
+  Gate().EnterWithin("", [this] { Event_Resized(); });
 }
 
 bool Window::HandleKey(const QKeyEvent& event) {
@@ -202,7 +195,7 @@ bool Window::HandleKey(const QKeyEvent& event) {
 bool Window::KeyPressed(const QKeyEvent& event) {
   bool used = HandleKey(event);
   if (used) return true;
-  ProgramGate::Instance().EnterWithin("", [&] {
+  Gate().EnterWithin("", [&] {
     const std::string key = KeyText(event);
     used = !key.empty() && Event_KeyDown(key);
   });
@@ -226,7 +219,7 @@ void Window::FocusCame(Control& control) {
   if (!open_ || focused_ == &control) return;
   Control* before = std::exchange(focused_, &control);
   native_->Content().update();
-  ProgramGate::Instance().EnterWithin("", [&] {
+  Gate().EnterWithin("", [&] {
     if (before != nullptr) before->FireLostFocus();
     control.FireGotFocus();
   });
@@ -236,11 +229,11 @@ void Window::FocusWent(Control& control) {
   if (!open_ || focused_ != &control) return;
   focused_ = nullptr;
   native_->Content().update();
-  ProgramGate::Instance().EnterWithin("", [&] { control.FireLostFocus(); });
+  Gate().EnterWithin("", [&] { control.FireLostFocus(); });
 }
 
 void Window::FocusCameAgain(Control& control) {
-  ProgramGate::Instance().EnterWithin("", [&] { control.FireGotFocus(); });
+  Gate().EnterWithin("", [&] { control.FireGotFocus(); });
 }
 
 bool Window::HasHandler(const MenuItem& item) const {
@@ -262,7 +255,7 @@ const Control* Window::EditTarget(EditCommand command) const {
 void Window::EnableMenuItems() {
   // While a message is open, the field may still show what the handler that waits has replaced.
   if (ModalDialog::IsOpen()) return;
-  ProgramGate::Instance().EnterWithin("", [this] {
+  Gate().EnterWithin("", [this] {
     MenuBar().ForEach([this](MenuItem& item) {
       if (HasHandler(item)) {
         item.Enable();
@@ -279,7 +272,7 @@ void Window::Choose(MenuItem& item) {
   if (ModalDialog::IsOpen()) return;
   EnableMenuItems();
   if (!item.Enabled()) return;
-  ProgramGate::Instance().Enter(item.Text, [this, &item] {
+  Gate().Enter(item.Text, [this, &item] {
     if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) {
       Quit(0);
     } else if (const auto handler = menu_handlers_.find(item.Name);
