@@ -14,6 +14,7 @@
 // The road that the keys take in Qt before they reach a widget, as its QTest takes it for keys that
 // do not come from the desktop: first ShortcutOverride, then the shortcuts.
 QT_BEGIN_NAMESPACE
+// NOLINTNEXTLINE(misc-use-internal-linkage)
 Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
                                                Qt::KeyboardModifiers modifiers, const QString& text,
                                                bool repeated, ushort count);

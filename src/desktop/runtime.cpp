@@ -83,7 +83,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
 
 int Runtime::Run() {
   // Qt forgets an end that was asked for before its loop runs.
-  if (parts_->state.end_status) return *parts_->state.end_status;
+  if (const std::optional<int> status = parts_->state.end_status) return *status;
   if (Window::Front() == nullptr) return 1;
   return QApplication::exec();
 }

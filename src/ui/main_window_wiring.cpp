@@ -118,7 +118,7 @@ void aFundletWindow::_CreateControls0() {
   }
   for (const FocusCode code : kFocusCodes) {
     const main_layout::FieldRow& row = main_layout::Field(code);
-    TextField& field = ControlOf<TextField>(row.field);
+    auto& field = ControlOf<TextField>(row.field);
     fields_[static_cast<std::size_t>(code) - 1] = &field;
     field.Pasting = std::bind_front(&PastedEntry, code);
     ControlOf<Label>(row.label).SetLabelFor(field);

@@ -113,6 +113,8 @@ void OpenMenu(const QString& menu) {
 
 void OpenContextMenu() {
   QWidget* widget = QApplication::focusWidget();
+  // A menu that opens beneath the pointer takes no click there before it has moved.
+  QTest::mouseMove(widget->window()->windowHandle(), QPoint(1, 1));
   QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, widget->mapToGlobal(QPoint(5, 5)));
   QCoreApplication::sendEvent(widget, &event);
   Settle();
