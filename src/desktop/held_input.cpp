@@ -80,7 +80,6 @@ bool IsCancelGesture(const QEvent& event) {
 }  // namespace
 
 HeldInput::HeldInput() {
-  RunState::Now().held_input = this;
   QCoreApplication::instance()->installEventFilter(this);
   patience_.setSingleShot(true);
   patience_.setInterval(kPatienceMilliseconds);
@@ -88,10 +87,7 @@ HeldInput::HeldInput() {
   SetBackgroundTask(&HeldInput::Look);
 }
 
-HeldInput::~HeldInput() {
-  SetBackgroundTask(nullptr);
-  RunState::Now().held_input = nullptr;
-}
+HeldInput::~HeldInput() { SetBackgroundTask(nullptr); }
 
 int HeldInput::Look() {
   RunState::Now().held_input->PumpIfDue();

@@ -30,12 +30,13 @@ struct RunState {
   Application* application = nullptr;
   std::optional<int> end_status;  // once the end has been asked for
   ProgramGate gate;
-  std::vector<Window*> windows;                                       // visible, the frontmost last
+  std::vector<Window*> windows;   // visible, the frontmost last
+  std::vector<QDialog*> dialogs;  // open, the latest last
+  std::string save_folder;        // where the last file of this run went, empty for none
+  // What the run owns alone; a shared pointer takes types that are not known here.
   std::map<std::string, std::shared_ptr<Window>> implicit_instances;  // by their classes
-  std::vector<QDialog*> dialogs;                                      // open, the latest last
-  HeldInput* held_input = nullptr;
-  ScreenReader* screen_reader = nullptr;
-  std::string save_folder;  // where the last file of this run went, empty for none
+  std::shared_ptr<HeldInput> held_input;
+  std::shared_ptr<ScreenReader> screen_reader;
 };
 
 inline ProgramGate& Gate() { return RunState::Now().gate; }

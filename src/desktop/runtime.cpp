@@ -45,8 +45,6 @@ struct Runtime::Parts {
   char* arguments[2] = {program.data(), nullptr};
   std::unique_ptr<QApplication> application;
   std::future<void> font_search;  // waits for its end when it goes
-  std::unique_ptr<HeldInput> held_input;
-  std::unique_ptr<ScreenReader> screen_reader;
   std::unique_ptr<QObject> end_requests = std::make_unique<EndRequests>();
 };
 
@@ -55,6 +53,8 @@ Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move
 Runtime::~Runtime() {
   Gate().Shut();
   parts_->state.implicit_instances.clear();
+  parts_->state.screen_reader.reset();
+  parts_->state.held_input.reset();
 }
 
 void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {
@@ -71,12 +71,13 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setApplicationVersion(ToQt(App().Version));
   QApplication::setDesktopFileName(ToQt(App().DesktopFile));
   QApplication::setQuitOnLastWindowClosed(false);
-  parts_->held_input = std::make_unique<HeldInput>();
-  parts_->screen_reader = std::make_unique<ScreenReader>();
+  parts_->state.held_input = std::make_shared<HeldInput>();
+  parts_->state.screen_reader = std::make_shared<ScreenReader>();
   const auto show_enabling = [] {
     if (Window* front = Window::Front(); front != nullptr) front->EnableMenuItems();
   };
-  Gate().SetHooks({App().Report, show_enabling, [this] { parts_->held_input->ScheduleReplay(); }});
+  Gate().SetHooks(
+      {App().Report, show_enabling, [this] { parts_->state.held_input->ScheduleReplay(); }});
   parts_->application->installEventFilter(parts_->end_requests.get());
   Gate().Enter("Start", late);
 }

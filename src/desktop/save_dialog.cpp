@@ -16,7 +16,7 @@ namespace fundlet {
 namespace {
 
 QString StartFolder() {
-  const QString last = ToQt(RunState::Now().save_folder);
+  QString last = ToQt(RunState::Now().save_folder);
   if (!last.isEmpty() && QDir(last).exists()) return last;
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return QDir(documents).exists() ? documents : QDir::homePath();

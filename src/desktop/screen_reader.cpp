@@ -22,15 +22,11 @@ bool ChangesNothing(const QAccessibleEvent& event) {
 }  // namespace
 
 ScreenReader::ScreenReader() {
-  RunState::Now().screen_reader = this;
   InstallAccessibleInterfaces();
   QAccessible::installUpdateHandler(&ScreenReader::OnEvent);
 }
 
-ScreenReader::~ScreenReader() {
-  QAccessible::installUpdateHandler(nullptr);
-  RunState::Now().screen_reader = nullptr;
-}
+ScreenReader::~ScreenReader() { QAccessible::installUpdateHandler(nullptr); }
 
 void ScreenReader::OnEvent(QAccessibleEvent* event) {
   if (!RunState::Now().screen_reader->Keeps(*event)) Send(*event);
@@ -155,7 +151,7 @@ void ScreenReader::TellSelection(const Known& before, const Known& now) {
 }
 
 void ScreenReader::Announce(QWidget& widget, const QString& text) {
-  ScreenReader* reader = RunState::Now().screen_reader;
+  ScreenReader* reader = RunState::Now().screen_reader.get();
   if (reader == nullptr || !QAccessible::isActive() || !widget.isActiveWindow()) return;
   reader->announcements_.push_back({&widget, text});
   reader->TellSoon();

@@ -1,6 +1,14 @@
 #include "desktop/property_set.h"
 
-#include "tests/ui/window_fixture.h"
+#include <cstdlib>
+#include <optional>
+
+#include <gtest/gtest.h>
+
+#include "desktop/label.h"
+#include "desktop/runtime.h"
+#include "desktop/text_field.h"
+#include "tests/services/scratch_folder.h"
 
 namespace fundlet {
 namespace {
@@ -21,8 +29,38 @@ TEST(PropertySet, EncodesEachKindOfValue) {
   EXPECT_EQ(Encoded({"BackColor", Colour{0xCC, 0xFF, 0xCE}}), "BackColor \xCC\xFF\xCE\0"s);
 }
 
-using AppliedSet = StartedTest;
-using Registry = StartedTest;
+// A window with a label and a field, in a program that has nothing else.
+class Registry : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    runtime_.Start([this] { RegisterApplication(application_); }, [this] { window_.emplace(); });
+    window_->_AddControl("Sign", std::make_unique<Label>(*window_));
+    window_->_AddControl("Entry", std::make_unique<TextField>(*window_));
+  }
+
+  Label& Sign() { return window_->ControlOf<Label>("Sign"); }
+
+  Application application_;
+  Runtime runtime_{"desktop_test"};
+  std::optional<Window> window_;
+};
+using AppliedSet = Registry;
+
+TEST_F(AppliedSet, HasTheEntriesOfItsClassInTheirOrder) {
+  const Property own[] = {{"Name", "Sign"}, {"Text", "%"}, {"Left", 707}};
+  const std::string zero(8, '\0');
+  EXPECT_EQ(
+      EncodePropertySet(Sign().Properties(), own),
+      "InitialParent \0\0\0\0DataField \0\0\0\0DataSource \0\0\0\0Underline \0Italic \0Bold \0"
+      "TextUnit \0TextSize \0\0\x40\x41TextFont \x06\0\0\0System"
+      "AutoDeactivate \x01HelpTag \0\0\0\0Transparent \0Selectable \0Visible \x01"
+      "Enabled \x01Multiline \0TextColor \0\0\0\0TextAlign "s +
+          zero + "Text \x01\0\0\0%TabIndex "s + zero + "TabPanelIndex " + zero +
+          "LockBottom \0LockRight \0LockTop \0LockLeft \0Height "s + zero + "Width " + zero +
+          "Top " + zero + "Left \xC3\x02\0\0\0\0\0\0"s +
+          "Index \0\0\0\x80\xFF\xFF\xFF\xFFName \x04\0\0\0SignTabStop \x01"s);
+}
 
 TEST_F(AppliedSet, ThatCannotBeAppliedNamesTheObjectAndThePropertyAfterSettingWhatComesBefore) {
   const std::pair<std::string, std::string> cases[] = {
@@ -32,28 +70,35 @@ TEST_F(AppliedSet, ThatCannotBeAppliedNamesTheObjectAndThePropertyAfterSettingWh
       {"Text \x02\0\0\0okText"s, "property “”: a name without a value"},
   };
   for (const auto& [set, error] : cases) {
-    EXPECT_EQ(ErrorOf([&] { Main().StartYearField()._SetProperties(set); }),
-              "control “StartYearField”, " + error);
+    EXPECT_EQ(ErrorOf([&] { Sign()._SetProperties(set); }), "control “Sign”, " + error);
   }
-  EXPECT_EQ(Text("StartYearField"), "ok");
-  EXPECT_EQ(ErrorOf([] { Main()._SetProperties("TabIndex x"); }),
-            "window “Fundlet”, property “TabIndex”: there is no such property");
-  EXPECT_EQ(ErrorOf([] {
+  EXPECT_EQ(Sign().Text(), "ok");
+  window_->SetTitle("Title");
+  EXPECT_EQ(ErrorOf([&] { window_->_SetProperties("TabIndex x"); }),
+            "window “Title”, property “TabIndex”: there is no such property");
+  EXPECT_EQ(ErrorOf([&] {
               const Property caption{"Caption", "x"};
-              EncodePropertySet(Main().StaticText1().Properties(), {&caption, 1});
+              EncodePropertySet(Sign().Properties(), {&caption, 1});
             }),
             "no place for the property “Caption”");
 }
 
-TEST_F(Registry, FindsControlsAndMenuItemsByNameOnly) {
-  EXPECT_EQ(ErrorOf([] { Main().MenuBar().Child("Survival2"); }),
-            "The menu “” has no item “Survival2”.");
-  EXPECT_EQ(ErrorOf([] { Main().MenuBar()._Lookup("survival2"); }),
-            "The menus have no item “survival2”.");
-  EXPECT_EQ(ErrorOf([] { Main()._ControlByName("StaticText12"); }),
-            "The window has no control “StaticText12”.");
-  EXPECT_EQ(ErrorOf([] { Main().ControlOf<Label>("Windmill"); }),
-            "The control “Windmill” is of another class.");
+TEST_F(Registry, FindsControlsAndMenuItemsByNameOnlyAndEachOnce) {
+  MenuBar bar;
+  auto menu = std::make_unique<MenuItem>();
+  auto item = std::make_unique<MenuItem>();
+  menu->Name = "FileMenu";
+  item->Name = "FileSave";
+  menu->Append(std::move(item));
+  bar.Append(std::move(menu));
+  EXPECT_EQ(bar._Lookup("FileSave").Name, "FileSave");
+  EXPECT_EQ(ErrorOf([&] { bar.Child("FileSave"); }), "The menu “” has no item “FileSave”.");
+  EXPECT_EQ(ErrorOf([&] { bar._Lookup("filesave"); }), "The menus have no item “filesave”.");
+  EXPECT_EQ(ErrorOf([&] { window_->_ControlByName("Sigh"); }), "The window has no control “Sigh”.");
+  EXPECT_EQ(ErrorOf([&] { window_->ControlOf<Label>("Entry"); }),
+            "The control “Entry” is of another class.");
+  EXPECT_EQ(ErrorOf([&] { window_->_AddControl("Sign", std::make_unique<Label>(*window_)); }),
+            "The window has a control “Sign” already.");
 }
 
 }  // namespace
