@@ -54,7 +54,7 @@ class EntryWidget : public QLineEdit {
 
   int limit_ = 0;
   QString known_text_;         // the last that the user entered or the program wrote
-  bool known_change_ = false;  // the change under way is one of theirs
+  bool known_change_ = false;  // the change under way is made by one of them
 };
 
 }  // namespace fundlet

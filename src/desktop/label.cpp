@@ -14,13 +14,6 @@ namespace {
 
 QLabel& LabelOf(const Control& control) { return static_cast<QLabel&>(*control.Native()); }
 
-Qt::Alignment LabelAlignment(std::int64_t align) {
-  constexpr std::int64_t kCentre = 1;
-  constexpr std::int64_t kRight = 2;
-  if (align == kCentre) return Qt::AlignHCenter;
-  return align == kRight ? Qt::AlignRight : Qt::AlignLeft;
-}
-
 }  // namespace
 
 Label::Label(ControlOwner& owner) : TextControl(owner, new QLabel) {
@@ -37,7 +30,7 @@ void Label::SetText(std::string_view text) {
 }
 
 void Label::SetTextAlign(std::int64_t align) {
-  LabelOf(*this).setAlignment(LabelAlignment(align) | Qt::AlignVCenter);
+  LabelOf(*this).setAlignment(AlignmentOf(align, kLabelAlignment));
 }
 
 void Label::SetTextColor(Colour colour) { SetColour(LabelOf(*this), QPalette::WindowText, colour); }
@@ -45,20 +38,21 @@ void Label::SetTextColor(Colour colour) { SetColour(LabelOf(*this), QPalette::Wi
 void Label::SetLabelFor(const Control& control) { LabelOf(*this).setBuddy(control.Native()); }
 
 PropertyTable Label::Properties() const {
-  static const auto rows = Joined(kDataRows, kFontRows,
-                                  std::to_array<PropertyRow>({
-                                      {"AutoDeactivate", true},
-                                      {"HelpTag", "", kThrough<&Control::SetHelpTag>},
-                                      {"Transparent", false},
-                                      {"Selectable", false},
-                                      {"Visible", true, kThrough<&Control::SetVisible>},
-                                      {"Enabled", true, kThrough<&Control::SetEnabled>},
-                                      {"Multiline", false},
-                                      {"TextColor", kBlack, kThrough<&Label::SetTextColor>},
-                                      {"TextAlign", 0, kThrough<&Label::SetTextAlign>},
-                                      {"Text", "", kThrough<&Label::SetText>},
-                                  }),
-                                  kPlaceRows, std::to_array<PropertyRow>({{"TabStop", true}}));
+  static const auto rows =
+      Joined(kDataRows, kFontRows,
+             std::to_array<PropertyRow>({
+                 {"AutoDeactivate", true},
+                 {"HelpTag", "", kThrough<&Control::SetHelpTag>},
+                 {"Transparent", false},
+                 {"Selectable", false},
+                 {"Visible", true, kThrough<&Control::SetVisible>},
+                 {"Enabled", true, kThrough<&Control::SetEnabled>},
+                 {"Multiline", false},
+                 {"TextColor", kBlack, kThrough<&Label::SetTextColor>},
+                 {"TextAlign", kLabelAlignment.left, kThrough<&Label::SetTextAlign>},
+                 {"Text", "", kThrough<&Label::SetText>},
+             }),
+             kPlaceRows, std::to_array<PropertyRow>({{"TabStop", true}}));
   return rows;
 }
 

@@ -11,7 +11,7 @@ class Label : public TextControl {
 
   std::string Text() const;
   void SetText(std::string_view text);
-  void SetTextAlign(std::int64_t align);  // 0 left, 1 centre, 2 right
+  void SetTextAlign(std::int64_t align);  // one of kLabelAlignment
   void SetTextColor(Colour colour);
   // Makes this the label of a control: its text is the control's name for a screen reader.
   void SetLabelFor(const Control& control);

@@ -49,11 +49,11 @@ void ProgramGate::Enter(const std::string& what, std::function<void()> handler) 
   Run({what, std::move(handler), true});
 }
 
-void ProgramGate::EnterWithin(const std::string& what, const std::function<void()>& handler) {
+void ProgramGate::EnterWithin(const std::function<void()>& handler) {
   if (Busy()) {
-    RunGuarded(what, handler);
+    RunGuarded("", handler);
   } else {
-    Run({what, handler, false});
+    Run({"", handler, false});
   }
 }
 

@@ -7,17 +7,19 @@
 
 namespace fundlet {
 
-// The one place through which every event enters the program. One handler of the program runs at a
-// time: what comes while it runs waits until it has returned. An exception that leaves a handler
-// ends here, in a report to the user, and never passes through Qt.
+// Through here every event enters the program. A command, a press of a button, an activation and a
+// request to close run one at a time: what comes while a handler runs waits until it has returned.
+// What the running handler itself brings about (the focus, a key, a new size) is handled within it.
+// An exception that leaves a handler ends here, in a report to the user, and never passes through
+// Qt.
 class ProgramGate {
  public:
   // Runs the handler now, or after the one that is running. `what` names the command for the
-  // user, empty for what is no command of theirs.
+  // user, empty for what they have not asked for by a name.
   void Enter(const std::string& what, std::function<void()> handler);
   // Runs the handler now, inside the one that is running if there is one: for the events that the
   // running handler causes and waits for.
-  void EnterWithin(const std::string& what, const std::function<void()>& handler);
+  void EnterWithin(const std::function<void()>& handler);
 
   bool Busy() const { return depth_ > 0; }
   // What the gate asks of the desktop around it; each may be empty.

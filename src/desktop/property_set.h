@@ -30,6 +30,15 @@ struct Colour {
 inline constexpr Colour kBlack{0x00, 0x00, 0x00};
 inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
 
+// The numbers that stand for where a text is in its frame.
+struct AlignmentNumbers {
+  std::int64_t left;
+  std::int64_t centre;
+  std::int64_t right;
+};
+inline constexpr AlignmentNumbers kLabelAlignment{0, 1, 2};
+inline constexpr AlignmentNumbers kFieldAlignment{0, 2, 3};  // 1 is left, too
+
 using PropertyValue = std::variant<std::int64_t, bool, std::string_view, float, double, Colour>;
 
 struct Property {

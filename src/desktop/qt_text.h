@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include "desktop/property_set.h"
+
 namespace fundlet {
 
 inline QString ToQt(std::string_view text) {
@@ -26,6 +28,11 @@ inline std::int64_t CharactersOf(const QString& text, int units) {
   const QStringView part = QStringView(text).left(units);
   return static_cast<std::int64_t>(part.size()) -
          std::count_if(part.begin(), part.end(), [](QChar c) { return c.isLowSurrogate(); });
+}
+
+inline Qt::Alignment AlignmentOf(std::int64_t number, const AlignmentNumbers& numbers) {
+  if (number == numbers.centre) return Qt::AlignHCenter | Qt::AlignVCenter;
+  return (number == numbers.right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 }  // namespace fundlet

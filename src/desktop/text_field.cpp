@@ -69,7 +69,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
     bool used = false;
     const std::string key = KeyText(event);
     if (key.empty() || !field_.KeyDown) return used;
-    Gate().EnterWithin("", [&] { used = field_.KeyDown(field_, key); });
+    Gate().EnterWithin([&] { used = field_.KeyDown(field_, key); });
     return used;
   }
 
@@ -78,13 +78,6 @@ class FieldWidget : public FocusReporting<EntryWidget> {
 
 FieldWidget& FieldOf(const Control& control) {
   return static_cast<FieldWidget&>(*control.Native());
-}
-
-Qt::Alignment FieldAlignment(std::int64_t alignment) {
-  constexpr std::int64_t kCentre = 2;
-  constexpr std::int64_t kRight = 3;
-  if (alignment == kCentre) return Qt::AlignHCenter;
-  return alignment == kRight ? Qt::AlignRight : Qt::AlignLeft;
 }
 
 }  // namespace
@@ -152,7 +145,7 @@ void TextField::SetLimitText(std::int64_t limit) {
 }
 
 void TextField::SetAlignment(std::int64_t alignment) {
-  FieldOf(*this).setAlignment(FieldAlignment(alignment) | Qt::AlignVCenter);
+  FieldOf(*this).setAlignment(AlignmentOf(alignment, kFieldAlignment));
 }
 
 void TextField::SetReadOnly(bool read_only) { FieldOf(*this).setReadOnly(read_only); }
@@ -178,32 +171,33 @@ void TextField::FireLostFocus() {
 }
 
 PropertyTable TextField::Properties() const {
-  static const auto rows = Joined(kDataRows,
-                                  std::to_array<PropertyRow>({
-                                      {"AutomaticallyCheckSpelling", false},
-                                      {"Alignment", 0, kThrough<&TextField::SetAlignment>},
-                                      {"AcceptTabs", false},
-                                      {"LimitText", 0, kThrough<&TextField::SetLimitText>},
-                                      {"ReadOnly", false, kThrough<&TextField::SetReadOnly>},
-                                      {"Mask", ""},
-                                      {"Text", "", kThrough<&TextField::SetText>},
-                                      {"CueText", "", kThrough<&TextField::SetCueText>},
-                                  }),
-                                  kFontRows,
-                                  std::to_array<PropertyRow>({
-                                      {"AutoDeactivate", true},
-                                      {"HelpTag", "", kThrough<&Control::SetHelpTag>},
-                                      {"Visible", true, kThrough<&Control::SetVisible>},
-                                      {"Format", ""},
-                                      {"Enabled", true, kThrough<&Control::SetEnabled>},
-                                      {"BackColor", kWhite, kThrough<&TextField::SetBackColor>},
-                                      {"TextColor", kBlack, kThrough<&TextField::SetTextColor>},
-                                      {"UseFocusRing", true, kThrough<&Control::SetUseFocusRing>},
-                                      {"Password", false, kThrough<&TextField::SetPassword>},
-                                      {"Border", true, kThrough<&TextField::SetBorder>},
-                                      {"TabStop", true},
-                                  }),
-                                  kPlaceRows);
+  static const auto rows =
+      Joined(kDataRows,
+             std::to_array<PropertyRow>({
+                 {"AutomaticallyCheckSpelling", false},
+                 {"Alignment", kFieldAlignment.left, kThrough<&TextField::SetAlignment>},
+                 {"AcceptTabs", false},
+                 {"LimitText", 0, kThrough<&TextField::SetLimitText>},
+                 {"ReadOnly", false, kThrough<&TextField::SetReadOnly>},
+                 {"Mask", ""},
+                 {"Text", "", kThrough<&TextField::SetText>},
+                 {"CueText", "", kThrough<&TextField::SetCueText>},
+             }),
+             kFontRows,
+             std::to_array<PropertyRow>({
+                 {"AutoDeactivate", true},
+                 {"HelpTag", "", kThrough<&Control::SetHelpTag>},
+                 {"Visible", true, kThrough<&Control::SetVisible>},
+                 {"Format", ""},
+                 {"Enabled", true, kThrough<&Control::SetEnabled>},
+                 {"BackColor", kWhite, kThrough<&TextField::SetBackColor>},
+                 {"TextColor", kBlack, kThrough<&TextField::SetTextColor>},
+                 {"UseFocusRing", true, kThrough<&Control::SetUseFocusRing>},
+                 {"Password", false, kThrough<&TextField::SetPassword>},
+                 {"Border", true, kThrough<&TextField::SetBorder>},
+                 {"TabStop", true},
+             }),
+             kPlaceRows);
   return rows;
 }
 

@@ -21,7 +21,7 @@ class TextField : public TextControl {
   std::int64_t SelLength() const;
   // The largest number of characters that what the user enters can bring the text to; 0 for none.
   void SetLimitText(std::int64_t limit);
-  void SetAlignment(std::int64_t alignment);  // 0 and 1 left, 2 centre, 3 right
+  void SetAlignment(std::int64_t alignment);  // one of kFieldAlignment
   void SetReadOnly(bool read_only);
   void SetPassword(bool password);
   void SetBorder(bool border);

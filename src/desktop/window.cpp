@@ -80,7 +80,7 @@ Control& Window::_ControlByName(std::string_view name) const {
 
 void Window::Open() {
   open_ = true;
-  Gate().EnterWithin("", [this] { Event_Open(); });
+  Gate().EnterWithin([this] { Event_Open(); });
 }
 
 void Window::Show() {
@@ -149,7 +149,7 @@ void Window::Close() {
   open_ = false;
   native_->hide();
   std::erase(RunState::Now().windows, this);
-  Gate().EnterWithin("", [this] { Event_Close(); });
+  Gate().EnterWithin([this] { Event_Close(); });
 }
 
 void Window::ClearFocus() {
@@ -179,7 +179,7 @@ void Window::CloseAsked() {
 }
 
 void Window::Resized() {
-  Gate().EnterWithin("", [this] { Event_Resized(); });
+  Gate().EnterWithin([this] { Event_Resized(); });
 }
 
 bool Window::HandleKey(const QKeyEvent& event) {
@@ -195,7 +195,7 @@ bool Window::HandleKey(const QKeyEvent& event) {
 bool Window::KeyPressed(const QKeyEvent& event) {
   bool used = HandleKey(event);
   if (used) return true;
-  Gate().EnterWithin("", [&] {
+  Gate().EnterWithin([&] {
     const std::string key = KeyText(event);
     used = !key.empty() && Event_KeyDown(key);
   });
@@ -219,7 +219,7 @@ void Window::FocusCame(Control& control) {
   if (!open_ || focused_ == &control) return;
   Control* before = std::exchange(focused_, &control);
   native_->Content().update();
-  Gate().EnterWithin("", [&] {
+  Gate().EnterWithin([&] {
     if (before != nullptr) before->FireLostFocus();
     control.FireGotFocus();
   });
@@ -229,11 +229,11 @@ void Window::FocusWent(Control& control) {
   if (!open_ || focused_ != &control) return;
   focused_ = nullptr;
   native_->Content().update();
-  Gate().EnterWithin("", [&] { control.FireLostFocus(); });
+  Gate().EnterWithin([&] { control.FireLostFocus(); });
 }
 
 void Window::FocusCameAgain(Control& control) {
-  Gate().EnterWithin("", [&] { control.FireGotFocus(); });
+  Gate().EnterWithin([&] { control.FireGotFocus(); });
 }
 
 bool Window::HasHandler(const MenuItem& item) const {
@@ -255,7 +255,7 @@ const Control* Window::EditTarget(EditCommand command) const {
 void Window::EnableMenuItems() {
   // While a message is open, the field may still show what the handler that waits has replaced.
   if (ModalDialog::IsOpen()) return;
-  Gate().EnterWithin("", [this] {
+  Gate().EnterWithin([this] {
     MenuBar().ForEach([this](MenuItem& item) {
       if (HasHandler(item)) {
         item.Enable();

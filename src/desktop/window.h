@@ -24,8 +24,8 @@ class NativeWindow;
 // controls in its constructor, and overrides the events it cares for. Sizes are those of the
 // content area, in pixels; a menu bar inside the window is not part of it.
 //
-// No event of a window or control is delivered while another one is being handled, except for
-// those of the focus: it waits until that handler has returned.
+// Event_Activate, the handlers of menu items and a button's Action wait while another handler runs;
+// the other events come within it where it brings them about.
 class Window : public PropertyTarget, public ControlOwner, private WindowEvents {
  public:
   Window();

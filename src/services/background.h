@@ -1,8 +1,8 @@
 #pragma once
 
 // What a long computation does for the rest of the program: it yields now and then, and it asks
-// whether the user wants it to stop. Both cost next to nothing. The desktop sets the task and the
-// wish; without one nothing happens.
+// whether the user wants it to stop. Both cost next to nothing. The desktop sets the task and tells
+// of the user; without it nothing happens.
 namespace fundlet {
 
 namespace background {

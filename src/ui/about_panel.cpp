@@ -1,6 +1,6 @@
 #include "ui/about_panel.h"
 
-#include "desktop/message_sending.h"
+#include "desktop/objective_c.h"
 
 namespace fundlet {
 

@@ -10,7 +10,8 @@ class aHelpWindow;
 // The few things that the windows share.
 struct GlobalModule {
   // Shows a message with the alert sound over the frontmost window, and returns when the user has
-  // dismissed it. Every message of the program goes through here.
+  // dismissed it. All that the program has to tell goes through here; the save dialog asks by
+  // itself whether it may replace a file.
   static void AlertBox(const std::string& message);
 
   // The start values, and the end of what the module holds.

@@ -7,7 +7,7 @@ namespace {
 // The lines in order; an empty one stands between two paragraphs.
 constexpr const char* kLines[] = {
     "Fundlet",
-    "Version 5",
+    "Version " FUNDLET_VERSION,
     "",
     "This \"Fundlet\" program determines the optimal inflation-adjusted dollar draw that can "
     "be made each year from a financial fundlet (e.g., an investment in bonds, stocks, CDs, "

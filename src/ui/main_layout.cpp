@@ -62,19 +62,14 @@ constexpr ControlRow kControls[] = {
      "Click this button to recall the previously remembered set of paremeters."},
 };
 
-constexpr int kLeftAligned = 0;
-constexpr int kRightAligned = 3;  // of a field
-constexpr int kLabelRightAligned = 2;
+constexpr std::int64_t kLeft = kFieldAlignment.left;
+constexpr std::int64_t kRight = kFieldAlignment.right;
 
 constexpr FieldRow kFields[] = {
-    {"StartYearField", "StaticText1", kLeftAligned},
-    {"StartAgeField", "StaticText2", kLeftAligned},
-    {"YearsLeftField", "StaticText4", kLeftAligned},
-    {"COLAField", "StaticText6", kRightAligned},
-    {"StartFundletField", "StaticText8", kLeftAligned},
-    {"FundletAPRField", "StaticText9", kRightAligned},
-    {"SocialSecurityField", "StaticText11", kLeftAligned},
-    {"EndFundletField", "StaticText13", kLeftAligned},
+    {"StartYearField", "StaticText1", kLeft},       {"StartAgeField", "StaticText2", kLeft},
+    {"YearsLeftField", "StaticText4", kLeft},       {"COLAField", "StaticText6", kRight},
+    {"StartFundletField", "StaticText8", kLeft},    {"FundletAPRField", "StaticText9", kRight},
+    {"SocialSecurityField", "StaticText11", kLeft}, {"EndFundletField", "StaticText13", kLeft},
 };
 
 // What single controls have beyond what their class and their row say.
@@ -84,7 +79,7 @@ struct OwnProperty {
 };
 
 constexpr OwnProperty kOwnProperties[] = {
-    {"AnnualDrawField", {"TextAlign", kLabelRightAligned}},
+    {"AnnualDrawField", {"TextAlign", kLabelAlignment.right}},
     {"Windmill", {"Visible", false}},
     {"CalculateButton", {"Default", true}},
     {"PrintButton", {"Enabled", false}},

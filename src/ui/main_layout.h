@@ -32,7 +32,7 @@ struct ControlRow {
 struct FieldRow {
   std::string_view field;
   std::string_view label;
-  int alignment;
+  std::int64_t alignment;
 };
 
 // All controls, in the order in which they are made.

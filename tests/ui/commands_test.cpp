@@ -1,6 +1,6 @@
 #include <QFileDialog>
 
-#include "desktop/message_sending.h"
+#include "desktop/objective_c.h"
 #include "tests/ui/window_fixture.h"
 
 namespace fundlet {

@@ -1,4 +1,4 @@
-#include "desktop/message_sending.h"
+#include "desktop/objective_c.h"
 
 #include <set>
 #include <string>
