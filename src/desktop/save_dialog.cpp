@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QStandardPaths>
 
@@ -60,6 +61,9 @@ std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
 #ifdef Q_OS_LINUX
   dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
 #endif
+  // The list that pops up beneath a name being typed takes the keyboard from it and gives it back;
+  // on Wayland a letter typed meanwhile is lost.
+  if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit")) name->setCompleter(nullptr);
   dialog.selectFile(ToQt(proposed_name));
   Window::RunDialog(dialog, window);
   const QString path = dialog.selectedFiles().value(0);

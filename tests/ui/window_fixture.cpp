@@ -165,7 +165,6 @@ Answer BySaving(const std::string& path) {
     name->selectAll();
     QGuiApplication::clipboard()->setText(QString::fromStdString(path));
     QTest::keyClick(dialog.windowHandle(), Qt::Key_V, Qt::ControlModifier);
-    if (QWidget* completer = QApplication::activePopupWidget()) completer->hide();
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
   };
 }
