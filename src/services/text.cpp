@@ -12,7 +12,9 @@ double Val(std::string_view text) {
   // strtod expects the locale's decimal point, and alone gets every double right in every library.
   const std::string number =
       ReplaceAll(text.substr(begin, end - begin), ".", std::localeconv()->decimal_point);
-  return std::strtod(number.c_str(), nullptr);
+  char* behind = nullptr;
+  const double value = std::strtod(number.c_str(), &behind);
+  return behind != number.c_str() ? value : 0;  // not every library gives 0 for no number
 }
 
 std::string Str(std::int64_t number) { return std::to_string(number); }
