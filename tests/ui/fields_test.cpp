@@ -280,6 +280,7 @@ TEST_F(Hand, ThatHoldsAKeyAnswersNoDialogButStillTypesAName) {
     name->clear();
     Repeat(dialog, Qt::Key_X, true, {}, "x");
     EXPECT_EQ(name->text(), "x");
+    EXPECT_EQ(name->completer(), nullptr);
     only_by_a_fresh_key(dialog);
   });
   user::Shortcut(Qt::Key_S);
