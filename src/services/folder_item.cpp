@@ -1,6 +1,5 @@
 #include "services/folder_item.h"
 
-#include <array>
 #include <cstdlib>
 #include <system_error>
 #include <utility>
@@ -8,6 +7,7 @@
 #include "services/exceptions.h"
 
 #ifdef __APPLE__
+#include <array>
 #include <sys/xattr.h>
 #endif
 

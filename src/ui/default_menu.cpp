@@ -5,7 +5,7 @@
 #include <span>
 #include <utility>
 
-#include "desktop/runtime.h"
+#include "desktop/application.h"
 
 namespace fundlet {
 

@@ -9,7 +9,6 @@
 #include "plan/life_table.h"
 #include "plan/parameters_file.h"
 #include "plan/validation.h"
-#include "services/numbers.h"
 #include "services/text.h"
 #include "ui/about_panel.h"
 #include "ui/global_module.h"
