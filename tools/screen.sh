@@ -1,12 +1,8 @@
 # shellcheck shell=bash
-# To be sourced. A virtual screen with a window manager, and a person at its keyboard.
+# To be sourced. Opens a virtual screen with a window manager, and presses its keys and buttons.
+. "$(dirname "${BASH_SOURCE[0]}")/install.sh"
 
-wrong() {
-  echo "$(basename "$0"): $*" >&2
-  exit 1
-}
-
-# A test that is left out.
+# Ends a test that cannot run on this machine, with the status by which ctest knows it as skipped.
 skip() {
   echo "Skipped: $*"
   exit 77
@@ -15,7 +11,7 @@ skip() {
 need() {
   local command
   for command in "$@"; do
-    command -v "$command" >/dev/null || skip "$command is not installed."
+    have "$command" || skip "$command is not installed."
   done
 }
 
@@ -45,12 +41,12 @@ open_screen() {
   Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
     3>"$screen_folder/display" 2>"$screen_folder/Xvfb.log" &
   screen_processes+=($!)
-  wait_for 20 test -s "$screen_folder/display" || wrong 'the virtual screen did not open'
+  wait_for 20 test -s "$screen_folder/display" || fail 'the virtual screen did not open'
   DISPLAY=:$(cat "$screen_folder/display")
   export DISPLAY
   openbox >"$screen_folder/openbox.log" 2>&1 &
   screen_processes+=($!)
-  wait_for 20 xdotool get_desktop || wrong 'the window manager did not start'
+  wait_for 20 xdotool get_desktop || fail 'the window manager did not start'
   open_bus
 }
 
@@ -62,7 +58,7 @@ open_bus() {
   dbus-daemon --session --nofork --nopidfile --address="unix:path=${bus// /%20}" \
     2>"$screen_folder/bus.log" &
   screen_processes+=($!)
-  wait_for 20 test -S "$bus" || wrong 'the session bus did not start'
+  wait_for 20 test -S "$bus" || fail 'the session bus did not start'
   export DBUS_SESSION_BUS_ADDRESS=unix:path=${bus// /%20}
 }
 
@@ -75,7 +71,7 @@ open_wayland() {
     --socket=wayland-test --idle-time=0 --debug --config="$screen_folder/weston.ini" --log="$screen_folder/weston.log" >/dev/null 2>&1 &
   screen_processes+=($!)
   export WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland
-  wait_for 20 weston-debug scene-graph || wrong 'the Wayland desktop did not open'
+  wait_for 20 weston-debug scene-graph || fail 'the Wayland desktop did not open'
   # It follows the pointer's way and not its place, until the pointer has been in a corner.
   xdotool mousemove 4000 4000 sleep 0.5 mousemove 0 0 sleep 0.5
 }

@@ -12,7 +12,7 @@ need Xvfb openbox xdotool import
 [ "$session" = x11 ] || need weston
 
 expect() { # WHAT EXPECTED FOUND
-  [ "$2" = "$3" ] || wrong "$1"$'\n'"  expected: $2"$'\n'"  found:    $3"
+  [ "$2" = "$3" ] || fail "$1"$'\n'"  expected: $2"$'\n'"  found:    $3"
 }
 
 # Starts the program and waits for its window. Sets process, main, and left and top, the place of the
@@ -21,7 +21,7 @@ start_program() {
   "$program" &
   process=$!
   screen_processes+=("$process")
-  wait_for 60 other_window_of_is_active "$process" none || wrong 'the window did not open'
+  wait_for 60 other_window_of_is_active "$process" none || fail 'the window did not open'
   main=$(active_window)
   local x y width height
   read -r x y width height < <(window_place "$main")
@@ -47,11 +47,11 @@ result_picture_is_not() { ! result_picture_is "$1"; }
 # Saves the schedule by the shortcut and the dialog into a new file of that name.
 save_schedule() {
   press ctrl+s
-  wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'no save dialog'
+  wait_for 20 other_window_of_is_active "$process" "$main" || fail 'no save dialog'
   type_text "$folder/$1"
   press Return
-  wait_for 20 is_active "$main" || wrong 'the save dialog stayed'
-  wait_for 20 test -s "$folder/$1" || wrong "no schedule in $1"
+  wait_for 20 is_active "$main" || fail 'the save dialog stayed'
+  wait_for 20 test -s "$folder/$1" || fail "no schedule in $1"
 }
 
 picture() { # NAME
@@ -65,7 +65,7 @@ work_with_the_mouse() {
   local x y width rest help
   move_window "$main" 0 0
   press F1
-  wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'F1 opened no help'
+  wait_for 20 other_window_of_is_active "$process" "$main" || fail 'F1 opened no help'
   help=$(active_window)
   move_window "$help" 750 100
 
@@ -77,14 +77,14 @@ work_with_the_mouse() {
   expect_parameters 'after typing when the menu has closed' "07db3d04$remembered"
 
   click_in "$help" 100 300
-  wait_for 20 is_active "$help" || wrong 'a click did not activate the help'
+  wait_for 20 is_active "$help" || fail 'a click did not activate the help'
   click_in "$main" $((left + 145)) $((top + 32))
   type_text 2015
   press ctrl+p
   expect_parameters 'after a click into another field than the refused one' "07df3d04$remembered"
 
   press super+shift+m
-  wait_for 20 is_wide "$main" || wrong 'the desktop could not maximise the window'
+  wait_for 20 is_wide "$main" || fail 'the desktop could not maximise the window'
   expect 'colour beside the content' '#CCFFCC' "$(colour_at 900 400)"
   press Tab
   type_text 60
@@ -101,7 +101,7 @@ folder=$screen_folder
 parameters=$XDG_CONFIG_HOME/Fundlet.Preferences
 tab=$'\t'
 
-! ldd "$program" | grep -iE 'network|curl|ssl|http' || wrong 'linked with what talks to a network'
+! ldd "$program" | grep -iE 'network|curl|ssl|http' || fail 'linked with what talks to a network'
 
 start_program
 expect 'title' Fundlet "$(window_title "$main")"
@@ -111,17 +111,17 @@ expect 'colour of the window' '#CCFFCC' "$(colour_at 5 210)"
 nothing_drawn=$(result_picture)
 
 press Return
-wait_for 20 result_picture_is_not "$nothing_drawn" || wrong 'no result on the screen'
+wait_for 20 result_picture_is_not "$nothing_drawn" || fail 'no result on the screen'
 picture window.png
 
 press ctrl+e
-wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'control-E opened no help'
+wait_for 20 other_window_of_is_active "$process" "$main" || fail 'control-E opened no help'
 picture help.png
 press Return
-wait_for 20 is_active "$main" || wrong 'Return did not close the help'
+wait_for 20 is_active "$main" || fail 'Return did not close the help'
 
 press ctrl+r
-wait_for 20 result_picture_is "$nothing_drawn" || wrong 'recalling did not clear the result'
+wait_for 20 result_picture_is "$nothing_drawn" || fail 'recalling did not clear the result'
 type_fields 2010 70 4 2.5 500,000 5 20,000 100,000
 press Return
 save_schedule typed.txt
@@ -132,7 +132,7 @@ if command -v soffice >/dev/null; then
     --infilter='Text - txt - csv (StarCalc):9,34,76,1' --outdir "$folder" --convert-to \
     'csv:Text - txt - csv (StarCalc):44,34,76,1,,0,false,false' "$folder/typed.txt" >/dev/null
   diff <(tail -n 4 "$folder/typed.txt" | tr -d , | tr '\t' ,) <(tail -n 4 "$folder/typed.csv") ||
-    wrong 'the numbers in a spreadsheet program'
+    fail 'the numbers in a spreadsheet program'
 fi
 press ctrl+p
 remembered=3f9999999999999a411e8480000000003fa999999999999a40d388000000000040f86a0000000000
@@ -142,23 +142,23 @@ press ctrl+r
 type_fields 2011
 type_text 30
 press Return
-wait_for 20 other_window_of_is_active "$process" "$main" || wrong 'no alert for the age of 30'
+wait_for 20 other_window_of_is_active "$process" "$main" || fail 'no alert for the age of 30'
 press Return
-wait_for 20 is_active "$main" || wrong 'Return did not dismiss the alert'
+wait_for 20 is_active "$main" || fail 'Return did not dismiss the alert'
 type_text 60
 press ctrl+p
 expect_parameters 'after typing over the refused age' "07db3c04$remembered"
 
 if [ "$session" = x11 ]; then press alt+F4; else work_with_the_mouse; fi
-wait "$process" || wrong "exit status $?"
+wait "$process" || fail "exit status $?"
 
 start_program
 type_text 2012
 press Return
-wait_for 20 result_picture_is_not "$nothing_drawn" || wrong 'no result after a second start'
+wait_for 20 result_picture_is_not "$nothing_drawn" || fail 'no result after a second start'
 save_schedule again.txt
 expect 'first year after a second start' \
   "2012${tab}60${tab}500,000${tab}131,468${tab}411,522${tab}61" \
   "$(sed -n 11p "$folder/again.txt")"
 press ctrl+q
-wait "$process" || wrong "exit status $?"
+wait "$process" || fail "exit status $?"

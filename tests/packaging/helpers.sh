@@ -13,11 +13,11 @@ start_and_quit() {
   "$@" &
   process=$!
   screen_processes+=("$process")
-  wait_for 60 other_window_of_is_active "$process" none || wrong "no window of $*"
+  wait_for 60 other_window_of_is_active "$process" none || fail "no window of $*"
   xprop -id "$(active_window)" WM_CLASS |
-    grep -qF "\"$(desktop_entry_value "$entry" StartupWMClass)\"" || wrong 'class of the window'
+    grep -qF "\"$(desktop_entry_value "$entry" StartupWMClass)\"" || fail 'class of the window'
   xprop -id "$(active_window)" _NET_WM_ICON >"$screen_folder/icon"
-  grep -qF '(64 x 64)' "$screen_folder/icon" || wrong 'the window has no icon'
+  grep -qF '(64 x 64)' "$screen_folder/icon" || fail 'the window has no icon'
   press ctrl+q
-  wait "$process" || wrong "exit status $? of $*"
+  wait "$process" || fail "exit status $? of $*"
 }

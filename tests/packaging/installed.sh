@@ -13,27 +13,27 @@ share=$folder/prefix/share
 entry=$share/applications/fundlet.desktop
 
 desktop-file-validate "$entry"
-[ -s "$share/icons/hicolor/scalable/apps/fundlet.svg" ] || wrong 'the scalable icon is not there'
+[ -s "$share/icons/hicolor/scalable/apps/fundlet.svg" ] || fail 'the scalable icon is not there'
 for size in 16 32 64 128 256; do
   [ "$(identify -format %wx%h "$share/icons/hicolor/${size}x$size/apps/fundlet.png")" = \
-    "${size}x$size" ] || wrong "the icon of $size by $size is not there"
+    "${size}x$size" ] || fail "the icon of $size by $size is not there"
 done
 # There is no home page to name, which newer releases of AppStream remark on.
 validate_metainfo() {
   local remarks
   remarks=$(appstreamcli validate --no-net --no-color "$1" 2>&1) ||
-    [ "$(sed -n 's/^[EW]:.* //p' <<<"$remarks")" = url-homepage-missing ] || wrong "$remarks"
+    [ "$(sed -n 's/^[EW]:.* //p' <<<"$remarks")" = url-homepage-missing ] || fail "$remarks"
 }
 validate_metainfo "$share"/metainfo/*.xml
 cmake -S "$source" -B "$folder/build" -G Ninja -DBUILD_TESTING=OFF -DFUNDLET_BENCH=OFF \
   -DFUNDLET_SCREENSHOT_URL=https://example.org/doc/window.png >/dev/null
 validate_metainfo "$folder"/build/packaging/*.metainfo.xml
 grep -q '<image>https://example.org/' "$folder"/build/packaging/*.metainfo.xml ||
-  wrong 'the screenshot is not in the metainfo'
+  fail 'the screenshot is not in the metainfo'
 
 remarks=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z \
   "$share/man/man1/fundlet.1" 2>&1 >/dev/null)
-[ -z "$remarks" ] || wrong "manual page: $remarks"
+[ -z "$remarks" ] || fail "manual page: $remarks"
 
 open_screen 1024x640
 start_and_quit "$entry" "$folder/prefix/bin/$(desktop_entry_value "$entry" Exec)"

@@ -19,7 +19,7 @@ timeout 240 debootstrap --variant=minbase "$VERSION_CODENAME" "$root" >"$folder/
 in_root=(chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8)
 apt_in_root() {
   "${in_root[@]}" DEBIAN_FRONTEND=noninteractive apt-get -q -y "$@" >"$folder/apt.log" 2>&1 ||
-    { tail -50 "$folder/apt.log"; wrong "apt-get $*"; }
+    { tail -50 "$folder/apt.log"; fail "apt-get $*"; }
 }
 
 cp "$folder"/*.deb "$root/fundlet.deb"
@@ -28,9 +28,9 @@ files=$("${in_root[@]}" dpkg -L fundlet)
 open_screen 1024x640
 start_and_quit "$root/usr/share/applications/fundlet.desktop" \
   "${in_root[@]}" DISPLAY="$DISPLAY" fundlet
-[ -s "$root/root/.config/Fundlet.Preferences" ] || wrong 'no parameters in ~/.config'
+[ -s "$root/root/.config/Fundlet.Preferences" ] || fail 'no parameters in ~/.config'
 
 apt_in_root purge fundlet
 while read -r file; do
-  [ -d "$root/$file" ] || [ ! -e "$root/$file" ] || wrong "$file is left after the removal"
+  [ -d "$root/$file" ] || [ ! -e "$root/$file" ] || fail "$file is left after the removal"
 done <<<"$files"
