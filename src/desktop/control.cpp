@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "desktop/qt_text.h"
+#include "desktop/run_state.h"
 #include "desktop/text_fit.h"
 
 namespace fundlet {
@@ -72,7 +73,7 @@ void Control::Refresh(bool at_once) {
 
 void Control::SetFocus() {
   if (owner_.Focused() == this) {
-    owner_.FocusCameAgain(*this);
+    Gate().EnterWithin([this] { FireGotFocus(); });
     return;
   }
   native_->setFocus(Qt::OtherFocusReason);

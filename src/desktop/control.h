@@ -12,7 +12,7 @@ class QWidget;
 namespace fundlet {
 
 class Control;
-class PushButton;
+enum class EditCommand;
 
 // A window as its controls know it.
 class ControlOwner {
@@ -22,13 +22,8 @@ class ControlOwner {
   // The focus has come to a control, or gone from it, for good and not for the time of a menu.
   virtual void FocusCame(Control& control) = 0;
   virtual void FocusWent(Control& control) = 0;
-  // The program has given the focus to the control that has it.
-  virtual void FocusCameAgain(Control& control) = 0;
   // The window is no longer the active one.
   virtual void Deactivated() = 0;
-  // The button that Return presses, and the one that Escape presses; null for none.
-  virtual PushButton*& DefaultButton() = 0;
-  virtual PushButton*& CancelButton() = 0;
   // Presses the default or the cancel button where the key means that, but not for a key that is
   // held down. True where it means one of them.
   virtual bool HandleKey(const QKeyEvent& event) = 0;
@@ -85,6 +80,9 @@ class Control : public PropertyTarget {
   // Whether the control has lost the focus when its window is no longer the active one: so it is
   // with what can be typed into, and so may hold what the program has not read yet.
   virtual bool LosesFocusWithWindow() const { return false; }
+  // Whether the editing command can do something to the control's text now, and its carrying out.
+  virtual bool CanEdit(EditCommand /*command*/) const { return false; }
+  virtual void Edit(EditCommand /*command*/) {}
 
  protected:
   // The rows with which the table of every class of controls ends, but for single ones.

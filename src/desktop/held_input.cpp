@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
+#include "desktop/application.h"
 #include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
 #include "desktop/own_frame.h"
@@ -42,13 +44,6 @@ bool IsUserInput(const QEvent& event) {
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::Wheel:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TouchCancel:
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
     case QEvent::InputMethod:
     case QEvent::ContextMenu:
     case QEvent::Close:
@@ -74,7 +69,8 @@ bool IsCancelGesture(const QEvent& event) {
   const auto& key = static_cast<const QKeyEvent&>(event);
   const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
   return (key.key() == Qt::Key_Escape && modifiers == Qt::NoModifier) ||
-         (key.key() == Qt::Key_Period && modifiers == Qt::ControlModifier);
+         // Some keyboards have the full stop on the shift key.
+         (key.key() == Qt::Key_Period && (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier);
 }
 
 }  // namespace
@@ -97,9 +93,8 @@ int HeldInput::Look() {
 void HeldInput::PumpIfDue() {
   const bool due = !since_pump_.isValid() || since_pump_.elapsed() >= kPumpMilliseconds;
   if (!due || pumping_ || !Gate().Busy()) return;
-  pumping_ = true;
+  const QScopedValueRollback pumping(pumping_, true);
   QCoreApplication::processEvents();
-  pumping_ = false;
   since_pump_.start();
 }
 
@@ -146,6 +141,9 @@ void HeldInput::TellRepeat(QObject* object, QEvent& event) {
 
 bool HeldInput::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) StopAwaiting();
+  // An end that the desktop asks for, as that of its session, closes an open message like any
+  // answer. It has to be the program's end too, also while the start waits for that answer.
+  if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
   if (!IsUserInput(*event)) return false;
   if (IsUntoldRepeat(object, *event)) {
     TellRepeat(object, *event);
@@ -194,9 +192,8 @@ void HeldInput::ReplayNext() {
   const Held next = std::move(held_.front());
   held_.pop_front();
   if (next.receiver != nullptr) {
-    replaying_ = true;
+    const QScopedValueRollback replaying(replaying_, true);
     Deliver(*next.receiver, *next.event);
-    replaying_ = false;
   }
   ScheduleReplay();
 }

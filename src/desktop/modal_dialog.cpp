@@ -33,7 +33,10 @@ class OpenDialog {
 
 void ModalDialog::Run(QDialog& dialog) {
   QEventLoop loop;
-  QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+  QObject::connect(&dialog, &QDialog::finished, &loop, [&] {
+    Dismiss(&dialog);
+    loop.quit();
+  });
   const OpenDialog open(dialog);
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();

@@ -54,19 +54,9 @@ void* LoadFunctionPointerFromLibrary(const char* function, const char* /*library
 
 namespace {
 
-// An object that answers messages.
-struct Receiver {
-  Id (*answer)(std::string_view message);
-};
-
-Receiver application_object = {[](std::string_view message) -> Id {
-  if (message == "orderFrontStandardAboutPanel:") ShowAboutBox();
-  return nullptr;
-}};
-
-Receiver application_class = {[](std::string_view message) -> Id {
-  return message == "sharedApplication" ? &application_object : nullptr;
-}};
+// The class and the object that answer, known by their addresses.
+char application_class;
+char application_object;
 
 Id ClassNamed(const char* name) {
   return name == std::string_view("NSApplication") ? &application_class : nullptr;
@@ -76,13 +66,14 @@ Id ClassNamed(const char* name) {
 
 Selector sel_registerName(const char* name) {
   static std::set<std::string> names;
-  return &*names.emplace(name).first;
+  return names.emplace(name).first->c_str();
 }
 
 Id objc_msgSend(Id receiver, Selector message) {
-  if (receiver == nullptr || message == nullptr) return nullptr;
-  Id answer = static_cast<Receiver*>(receiver)->answer(*static_cast<const std::string*>(message));
-  return answer;
+  const auto is = [message](const char* name) { return message == sel_registerName(name); };
+  if (receiver == &application_class && is("sharedApplication")) return &application_object;
+  if (receiver == &application_object && is("orderFrontStandardAboutPanel:")) ShowAboutBox();
+  return nullptr;
 }
 
 void* LoadFunctionPointerFromLibrary(const char* function, const char* library) {

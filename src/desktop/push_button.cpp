@@ -53,17 +53,7 @@ void PushButton::SetCaption(std::string_view caption) {
 
 void PushButton::SetDefault(bool is_default) {
   ButtonOf(*this).setDefault(is_default);
-  PutIn(Owner().DefaultButton(), is_default);
-}
-
-void PushButton::SetCancel(bool is_cancel) { PutIn(Owner().CancelButton(), is_cancel); }
-
-void PushButton::PutIn(PushButton*& place, bool is_there) {
-  if (is_there) {
-    place = this;
-  } else if (place == this) {
-    place = nullptr;
-  }
+  default_ = is_default;
 }
 
 void PushButton::Press() { ButtonOf(*this).click(); }

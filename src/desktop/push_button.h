@@ -16,8 +16,10 @@ class PushButton : public TextControl {
   void SetCaption(std::string_view caption);
   // The window's default button, which Return presses.
   void SetDefault(bool is_default);
+  bool IsDefault() const { return default_; }
   // The window's cancel button, which Escape presses.
-  void SetCancel(bool is_cancel);
+  void SetCancel(bool is_cancel) { cancel_ = is_cancel; }
+  bool IsCancel() const { return cancel_; }
 
   // Presses the button as a person would; a dimmed one does nothing.
   void Press();
@@ -31,7 +33,8 @@ class PushButton : public TextControl {
   int TextRoom() const override;
 
  private:
-  void PutIn(PushButton*& place, bool is_there);
+  bool default_ = false;
+  bool cancel_ = false;
 };
 
 }  // namespace fundlet

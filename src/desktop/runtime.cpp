@@ -7,27 +7,12 @@
 #include <QFontDatabase>
 
 #include "desktop/held_input.h"
-#include "desktop/modal_dialog.h"
 #include "desktop/program_style.h"
 #include "desktop/qt_text.h"
 #include "desktop/run_state.h"
 #include "desktop/screen_reader.h"
 
 namespace fundlet {
-
-namespace {
-
-// An end that the desktop asks for, as that of its session, closes an open message like any answer.
-// It has to be the program's end too, also while the start waits for that answer.
-class EndRequests : public QObject {
- public:
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
-    return false;
-  }
-};
-
-}  // namespace
 
 Window& ImplicitInstance(const std::string& class_name,
                          const std::function<std::unique_ptr<Window>()>& make) {
@@ -45,7 +30,6 @@ struct Runtime::Parts {
   char* arguments[2] = {program.data(), nullptr};
   std::unique_ptr<QApplication> application;
   std::future<void> font_search;  // waits for its end when it goes
-  std::unique_ptr<QObject> end_requests = std::make_unique<EndRequests>();
 };
 
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {}
@@ -78,7 +62,6 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   };
   Gate().SetHooks(
       {App().Report, show_enabling, [this] { parts_->state.held_input->ScheduleReplay(); }});
-  parts_->application->installEventFilter(parts_->end_requests.get());
   Gate().Enter("Start", late);
 }
 

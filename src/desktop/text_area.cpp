@@ -8,6 +8,7 @@
 #include <QTextCursor>
 
 #include "desktop/focus_reporting.h"
+#include "desktop/menu.h"
 #include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 
@@ -134,6 +135,12 @@ void TextArea::SetTextColor(Colour colour) { SetColour(AreaOf(*this), QPalette::
 void TextArea::FireGotFocus() {
   if (GotFocus) GotFocus(*this);
 }
+
+bool TextArea::CanEdit(EditCommand command) const {
+  return command == EditCommand::Copy && AreaOf(*this).textCursor().hasSelection();
+}
+
+void TextArea::Edit(EditCommand /*command*/) { AreaOf(*this).copy(); }
 
 PropertyTable TextArea::Properties() const {
   static const auto rows =

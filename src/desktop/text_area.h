@@ -29,6 +29,10 @@ class TextArea : public TextControl {
   std::function<void(TextArea&)> GotFocus;
 
   void FireGotFocus() override;
+  // A text of many lines is only ever read, so it can be copied from. It keeps its selection when
+  // the focus goes on to a button.
+  bool CanEdit(EditCommand command) const override;
+  void Edit(EditCommand command) override;
 
   PropertyTable Properties() const override;
 };

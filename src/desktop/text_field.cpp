@@ -10,6 +10,7 @@
 #include "desktop/entry_widget.h"
 #include "desktop/focus_reporting.h"
 #include "desktop/keys.h"
+#include "desktop/menu.h"
 #include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 #include "desktop/run_state.h"
@@ -106,8 +107,6 @@ void TextField::SetText(std::string_view text) {
 // A text beyond the limit is narrowed too, so that no part of the number is out of sight.
 std::string TextField::WidestText() const { return beyond_limit_ ? Text() : longest_text_; }
 
-void TextField::Paste() const { FieldOf(*this).PasteFrom(QClipboard::Clipboard); }
-
 bool TextField::HasFocus() const { return Owner().Focused() == this; }
 
 void TextField::SetSelStart(std::int64_t start) { Select({start, 0}); }
@@ -168,6 +167,34 @@ void TextField::FireGotFocus() {
 void TextField::FireLostFocus() {
   if (LostFocus) LostFocus(*this);
   FieldOf(*this).setCursorPosition(0);
+}
+
+bool TextField::CanEdit(EditCommand command) const {
+  const QLineEdit& field = FieldOf(*this);
+  if (!HasFocus() || (field.isReadOnly() && command != EditCommand::Copy)) return false;
+  switch (command) {
+    case EditCommand::Undo:
+      return field.isUndoAvailable();
+    case EditCommand::Cut:
+    case EditCommand::Copy:
+      return field.hasSelectedText() && field.echoMode() == QLineEdit::Normal;
+    case EditCommand::Paste:
+      return true;  // what there is to paste is not asked: the program that holds it may not answer
+    case EditCommand::Clear:
+      return field.hasSelectedText();
+    case EditCommand::None:
+      break;
+  }
+  return false;
+}
+
+void TextField::Edit(EditCommand command) {
+  FieldWidget& field = FieldOf(*this);
+  if (command == EditCommand::Undo) field.undo();
+  if (command == EditCommand::Cut) field.cut();
+  if (command == EditCommand::Copy) field.copy();
+  if (command == EditCommand::Paste) field.PasteFrom(QClipboard::Clipboard);
+  if (command == EditCommand::Clear) field.del();
 }
 
 PropertyTable TextField::Properties() const {

@@ -28,8 +28,6 @@ class TextField : public TextControl {
   void SetBackColor(Colour colour);
   void SetTextColor(Colour colour);
   void SetCueText(std::string_view text);
-  // Enters what the clipboard holds, as the user does.
-  void Paste() const;
 
   // The focus has come to the field, or gone from it.
   std::function<void(TextField&)> GotFocus;
@@ -45,6 +43,8 @@ class TextField : public TextControl {
   void FireGotFocus() override;
   void FireLostFocus() override;
   bool LosesFocusWithWindow() const override { return true; }
+  bool CanEdit(EditCommand command) const override;
+  void Edit(EditCommand command) override;
 
   PropertyTable Properties() const override;
 

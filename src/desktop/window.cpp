@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 
 #include "desktop/application.h"
-#include "desktop/edit_commands.h"
 #include "desktop/keys.h"
 #include "desktop/modal_dialog.h"
 #include "desktop/native_window.h"
@@ -14,7 +13,6 @@
 #include "desktop/qt_text.h"
 #include "desktop/run_state.h"
 #include "desktop/screen.h"
-#include "desktop/text_area.h"
 
 namespace fundlet {
 
@@ -66,7 +64,10 @@ void Window::_AddMenuHandler(const std::string& item_name, std::function<bool()>
 void Window::_AddControl(const std::string& name, std::unique_ptr<Control> control) {
   const bool taken = std::any_of(controls_.begin(), controls_.end(),
                                  [&](const auto& other) { return other->Name() == name; });
-  if (taken) throw RuntimeException("The window has a control “" + name + "” already.");
+  if (taken) {
+    delete control->Native();
+    throw RuntimeException("The window has a control “" + name + "” already.");
+  }
   control->SetName(name);
   controls_.push_back(std::move(control));
 }
@@ -185,11 +186,14 @@ void Window::Resized() {
 bool Window::HandleKey(const QKeyEvent& event) {
   const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   const bool return_key = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  PushButton* button = nullptr;
-  if (plain && return_key) button = default_button_;
-  if (plain && event.key() == Qt::Key_Escape) button = cancel_button_;
-  if (button != nullptr && !event.isAutoRepeat()) button->Press();
-  return button != nullptr;
+  if (!plain || (!return_key && event.key() != Qt::Key_Escape)) return false;
+  for (const auto& control : controls_) {
+    auto* button = dynamic_cast<PushButton*>(control.get());
+    if (button == nullptr || !(return_key ? button->IsDefault() : button->IsCancel())) continue;
+    if (!event.isAutoRepeat()) button->Press();
+    return true;
+  }
+  return false;
 }
 
 bool Window::KeyPressed(const QKeyEvent& event) {
@@ -232,10 +236,6 @@ void Window::FocusWent(Control& control) {
   Gate().EnterWithin([&] { control.FireLostFocus(); });
 }
 
-void Window::FocusCameAgain(Control& control) {
-  Gate().EnterWithin([&] { control.FireGotFocus(); });
-}
-
 bool Window::HasHandler(const MenuItem& item) const {
   if (!item.AutoEnable) return false;
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return true;
@@ -243,12 +243,10 @@ bool Window::HasHandler(const MenuItem& item) const {
   return menu_handlers_.contains(item.Name);
 }
 
-// A text to read keeps its selection when the focus goes on to a button, and can still be copied.
-const Control* Window::EditTarget(EditCommand command) const {
-  if (CanEdit(command, focused_)) return focused_;
-  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
-    return dynamic_cast<TextArea*>(control.get()) != nullptr && CanEdit(command, control.get());
-  });
+Control* Window::EditTarget(EditCommand command) const {
+  if (focused_ != nullptr && focused_->CanEdit(command)) return focused_;
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const auto& control) { return control->CanEdit(command); });
   return found != controls_.end() ? found->get() : nullptr;
 }
 
@@ -278,8 +276,8 @@ void Window::Choose(MenuItem& item) {
     } else if (const auto handler = menu_handlers_.find(item.Name);
                handler != menu_handlers_.end()) {
       handler->second();
-    } else {
-      Edit(item.Edits, EditTarget(item.Edits));
+    } else if (Control* target = EditTarget(item.Edits); target != nullptr) {
+      target->Edit(item.Edits);
     }
   });
 }

@@ -94,10 +94,7 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   Control* Focused() const override { return focused_; }
   void FocusCame(Control& control) override;
   void FocusWent(Control& control) override;
-  void FocusCameAgain(Control& control) override;
   void Deactivated() override;
-  PushButton*& DefaultButton() override { return default_button_; }
-  PushButton*& CancelButton() override { return cancel_button_; }
   bool HandleKey(const QKeyEvent& event) override;
   void ShowEditMenu(const QPoint& place) override;
 
@@ -114,15 +111,13 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   void Centre();
   Control* ApplyTabOrder();  // gives the first control of the order, null where there is none
   bool HasHandler(const MenuItem& item) const;
-  const Control* EditTarget(EditCommand command) const;  // null where it can do nothing
+  Control* EditTarget(EditCommand command) const;  // null where it can do nothing
 
   // The widgets, which refer to their controls, go before these.
   std::vector<std::unique_ptr<Control>> controls_;
   std::unique_ptr<NativeWindow> native_;
   std::map<std::string, std::function<bool()>, std::less<>> menu_handlers_;
   fundlet::MenuBar* menu_bar_ = nullptr;
-  PushButton* default_button_ = nullptr;
-  PushButton* cancel_button_ = nullptr;
   Control* focused_ = nullptr;
   bool centred_ = false;
   bool open_ = false;
