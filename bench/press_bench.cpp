@@ -12,7 +12,7 @@
 #include "app/my_application.h"
 #include "bench/bare_solve.h"
 #include "bench/count_months.h"
-#include "desktop/native_window.h"
+#include "desktop/windows/native_window.h"
 #include "services/format.h"
 #include "services/text.h"
 #include "ui/main_window.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/runtime.h"
+#include "desktop/run/runtime.h"
 
 namespace fundlet {
 

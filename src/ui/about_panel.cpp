@@ -1,6 +1,6 @@
 #include "ui/about_panel.h"
 
-#include "desktop/objective_c.h"
+#include "desktop/dialogs/objective_c.h"
 
 namespace fundlet {
 

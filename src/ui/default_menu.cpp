@@ -5,7 +5,7 @@
 #include <span>
 #include <utility>
 
-#include "desktop/application.h"
+#include "desktop/base/application.h"
 
 namespace fundlet {
 

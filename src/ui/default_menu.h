@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/menu.h"
+#include "desktop/base/menu.h"
 
 namespace fundlet {
 

@@ -1,7 +1,7 @@
 #include "ui/global_module.h"
 
-#include "desktop/message_dialog.h"
-#include "desktop/window.h"
+#include "desktop/dialogs/message_dialog.h"
+#include "desktop/windows/window.h"
 
 namespace fundlet {
 

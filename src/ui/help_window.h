@@ -1,8 +1,8 @@
 #pragma once
 
-#include "desktop/push_button.h"
-#include "desktop/text_area.h"
-#include "desktop/window.h"
+#include "desktop/controls/push_button.h"
+#include "desktop/controls/text_area.h"
+#include "desktop/windows/window.h"
 
 namespace fundlet {
 

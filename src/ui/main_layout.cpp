@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "desktop/controls/alignment.h"
 #include "services/text.h"
 
 namespace fundlet::main_layout {

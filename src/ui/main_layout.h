@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "desktop/property_set.h"
+#include "desktop/base/property_set.h"
 #include "plan/entry_form.h"
 
 // The main window as data: what it is made of, where everything stands and what it says.

@@ -1,8 +1,8 @@
 #include "ui/main_window.h"
 
-#include "desktop/runtime.h"
-#include "desktop/save_dialog.h"
-#include "desktop/screen.h"
+#include "desktop/base/screen.h"
+#include "desktop/dialogs/save_dialog.h"
+#include "desktop/run/runtime.h"
 #include "files/draw_schedule.h"
 #include "files/remembered_parameters.h"
 #include "plan/draw_solver.h"
@@ -23,12 +23,8 @@ constexpr int kTitleBarHeight = 24;  // pixels that the frame is taken to need a
 }  // namespace
 
 aFundletWindow& aFundletWindow::Instance() {
-  return static_cast<aFundletWindow&>(ImplicitInstance("aFundletWindow.aFundletWindow", [] {
-    auto window = std::make_unique<aFundletWindow>();
-    window->Open();
-    window->Show();
-    return window;
-  }));
+  return static_cast<aFundletWindow&>(ImplicitInstance(
+      "aFundletWindow.aFundletWindow", [] { return std::make_unique<aFundletWindow>(); }));
 }
 
 aFundletWindow::aFundletWindow() {

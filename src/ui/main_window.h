@@ -3,12 +3,12 @@
 #include <array>
 #include <string>
 
-#include "desktop/label.h"
-#include "desktop/progress_wheel.h"
-#include "desktop/push_button.h"
-#include "desktop/separator.h"
-#include "desktop/text_field.h"
-#include "desktop/window.h"
+#include "desktop/controls/label.h"
+#include "desktop/controls/progress_wheel.h"
+#include "desktop/controls/push_button.h"
+#include "desktop/controls/separator.h"
+#include "desktop/controls/text_field.h"
+#include "desktop/windows/window.h"
 #include "plan/entry_fields.h"
 #include "plan/entry_form.h"
 #include "plan/plan.h"

@@ -1,13 +1,13 @@
-#include "desktop/property_set.h"
+#include "desktop/base/property_set.h"
 
 #include <cstdlib>
 #include <optional>
 
 #include <gtest/gtest.h>
 
-#include "desktop/label.h"
-#include "desktop/runtime.h"
-#include "desktop/text_field.h"
+#include "desktop/controls/label.h"
+#include "desktop/controls/text_field.h"
+#include "desktop/run/runtime.h"
 #include "tests/services/scratch_folder.h"
 
 namespace fundlet {

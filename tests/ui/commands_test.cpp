@@ -1,6 +1,6 @@
 #include <QFileDialog>
 
-#include "desktop/objective_c.h"
+#include "desktop/dialogs/objective_c.h"
 #include "tests/ui/window_fixture.h"
 
 namespace fundlet {
@@ -120,12 +120,12 @@ TEST_F(Commands, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
 TEST_F(Commands, AboutShowsTheVersionOrTellsOfAFunctionThatIsNotFound) {
   Fill("COLAField", "3");
   for (const bool found : {true, false}) {
-    SetLibrariesPresent(found);
+    SimulateMissingLibraries(!found);
     ExpectDialog(ByKey(Qt::Key_Escape));
     user::Choose("File", "About Fundlet…");
     EXPECT_EQ(FocusName(), "COLAField");
   }
-  SetLibrariesPresent(true);
+  SimulateMissingLibraries(false);
   EXPECT_EQ(TakeDialogs(),
             (Texts{"FundletVersion 5",
                    "“About Fundlet…” could not be carried out. The function “NSClassFromString” "

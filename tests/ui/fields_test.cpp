@@ -4,7 +4,7 @@
 #include <QMimeData>
 #include <QToolTip>
 
-#include "desktop/text_area.h"
+#include "desktop/controls/text_area.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
 #include "ui/help_window.h"

@@ -17,8 +17,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "desktop/native_window.h"
-#include "desktop/runtime.h"
+#include "desktop/run/runtime.h"
+#include "desktop/windows/native_window.h"
 #include "tests/services/scratch_folder.h"
 #include "ui/main_window.h"
 

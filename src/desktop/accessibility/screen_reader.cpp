@@ -1,0 +1,186 @@
+#include "desktop/accessibility/screen_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+#include <QWidget>
+
+#include "desktop/accessibility/accessible_interfaces.h"
+#include "desktop/base/run_state.h"
+
+namespace fundlet {
+
+namespace {
+
+bool ChangesNothing(const QAccessibleEvent& event) {
+  if (event.type() != QAccessible::TextUpdated) return false;
+  const auto& update = static_cast<const QAccessibleTextUpdateEvent&>(event);
+  return update.textRemoved() == update.textInserted();
+}
+
+}  // namespace
+
+ScreenReader::ScreenReader() {
+  InstallAccessibleInterfaces();
+  QAccessible::installUpdateHandler(&ScreenReader::OnEvent);
+}
+
+ScreenReader::~ScreenReader() { QAccessible::installUpdateHandler(nullptr); }
+
+void ScreenReader::OnEvent(QAccessibleEvent* event) {
+  if (!RunState::Of<ScreenReader>().Keeps(*event)) Send(*event);
+}
+
+bool ScreenReader::Keeps(const QAccessibleEvent& event) {
+  // Parts of a widget, as the items of a menu, have no object of their own.
+  const bool whole = event.object() != nullptr && event.child() == -1;
+  switch (event.type()) {
+    case QAccessible::Focus:
+      focused_ = whole ? event.object() : nullptr;
+      if (!whole) known_ = {};
+      if (whole) TellSoon();
+      return whole;
+    case QAccessible::PopupMenuEnd:
+      // Qt does not tell who has the keys again.
+      QMetaObject::invokeMethod(this, &ScreenReader::MenuHasClosed, Qt::QueuedConnection);
+      return false;
+    case QAccessible::StateChanged:
+      // A reader waits to be told the focus in a window that has become the active one.
+      if (static_cast<const QAccessibleStateChangeEvent&>(event).changedStates().active) {
+        known_ = {};
+      }
+      return false;
+    case QAccessible::TextInserted:
+    case QAccessible::TextRemoved:
+    case QAccessible::TextUpdated:
+      if (!whole || event.object() != known_.object) return ChangesNothing(event);
+      TellSoon();
+      return true;
+    case QAccessible::TextCaretMoved:
+    case QAccessible::TextSelectionChanged:
+      if (whole) TellSoon();
+      return whole;
+    default:
+      return false;
+  }
+}
+
+void ScreenReader::TellSoon() {
+  if (std::exchange(due_, true)) return;
+  const auto tell = [this] { Tell(); };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void ScreenReader::MenuHasClosed() {
+  if (QApplication::activePopupWidget() != nullptr || QApplication::focusWidget() == nullptr)
+    return;
+  focused_ = QApplication::focusWidget();
+  TellSoon();
+}
+
+void ScreenReader::Tell() {
+  due_ = false;
+  const Known before = std::exchange(known_, {});
+  QObject* focused = std::exchange(focused_, nullptr);
+  if (focused == nullptr) focused = before.object;
+  known_ = StateOf(focused);
+  if (focused != nullptr && focused != before.object) {
+    QAccessibleEvent event(focused, QAccessible::Focus);
+    Send(event);
+    TellText(before, StateOf(before.object));
+    TellSelection({}, known_);
+  } else {
+    TellText(before, known_);
+    TellSelection(before, known_);
+  }
+  for (const Announcement& announcement : std::exchange(announcements_, {})) {
+    if (announcement.widget != nullptr) Say(*announcement.widget, announcement.text);
+  }
+}
+
+ScreenReader::Known ScreenReader::StateOf(QObject* object) {
+  Known known;
+  known.object = object;
+  QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(object);
+  QAccessibleTextInterface* text = interface != nullptr ? interface->textInterface() : nullptr;
+  if (text == nullptr) return known;
+  known.text = text->text(0, text->characterCount());
+  known.caret = text->cursorPosition();
+  if (text->selectionCount() > 0) text->selection(0, &known.selected_from, &known.selected_to);
+  return known;
+}
+
+// Qt calls the handler for every event, and has no other way past it.
+void ScreenReader::Send(QAccessibleEvent& event) {
+  QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(&event);
+  QAccessible::installUpdateHandler(&ScreenReader::OnEvent);
+}
+
+void ScreenReader::TellText(const Known& before, const Known& now) {
+  if (now.object == nullptr || before.text == now.text) return;
+  // What stands behind the caret has most likely stood there before.
+  const auto limit = std::min(before.text.size(), now.text.size());
+  const auto behind_caret = std::min(limit, now.text.size() - std::max(now.caret, 0));
+  qsizetype tail = 0;
+  while (tail < behind_caret &&
+         before.text.at(before.text.size() - 1 - tail) == now.text.at(now.text.size() - 1 - tail)) {
+    ++tail;
+  }
+  qsizetype head = 0;
+  while (head < limit - tail && before.text.at(head) == now.text.at(head)) ++head;
+  QAccessibleTextUpdateEvent event(now.object, static_cast<int>(head),
+                                   before.text.mid(head, before.text.size() - head - tail),
+                                   now.text.mid(head, now.text.size() - head - tail));
+  event.setCursorPosition(now.caret);
+  Send(event);
+}
+
+void ScreenReader::TellSelection(const Known& before, const Known& now) {
+  if (now.caret == -1) return;
+  if (now.caret != before.caret) {
+    QAccessibleTextCursorEvent event(now.object, now.caret);
+    Send(event);
+  }
+  if (now.selected_from != before.selected_from || now.selected_to != before.selected_to) {
+    QAccessibleTextSelectionEvent event(now.object, now.selected_from, now.selected_to);
+    event.setCursorPosition(now.caret);
+    Send(event);
+  }
+}
+
+void ScreenReader::Announce(QWidget& widget, const QString& text) {
+  auto* reader = RunState::Find<ScreenReader>();
+  if (reader == nullptr || !QAccessible::isActive() || !widget.isActiveWindow()) return;
+  reader->announcements_.push_back({&widget, text});
+  reader->TellSoon();
+}
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+
+void ScreenReader::Say(QWidget& widget, const QString& text) {
+  QAccessibleAnnouncementEvent event(&widget, text);
+  Send(event);
+}
+
+#else
+
+// Readers speak the name of a notification that comes to be shown. It is a child without a size of
+// the widget, which keeps its own role and description.
+void ScreenReader::Say(QWidget& widget, const QString& text) {
+  static constexpr const char* kName = "fundlet notification";
+  auto* notification = widget.findChild<QWidget*>(kName, Qt::FindDirectChildrenOnly);
+  if (notification == nullptr) {
+    notification = new QWidget(&widget);
+    notification->setObjectName(kName);
+    SetAccessibleRole(*notification, QAccessible::Notification);
+  }
+  notification->setAccessibleName(text);
+  QAccessibleEvent event(notification, QAccessible::ObjectShow);
+  Send(event);
+}
+
+#endif
+
+}  // namespace fundlet

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <typeindex>
+#include <utility>
+#include <vector>
+
+#include "desktop/base/program_gate.h"
+
+namespace fundlet {
+
+class Application;
+
+// All state with the lifetime of one run. The Runtime owns it; there is one at a time. The modules
+// above keep what they need for a run as entries, by their own types, which are not known here.
+class RunState {
+ public:
+  RunState();
+  ~RunState();
+  RunState(const RunState&) = delete;
+  RunState& operator=(const RunState&) = delete;
+
+  // The current run's state; NilObjectException if there is none.
+  static RunState& Current();
+
+  // The run's one object of the type, made at the first call; NilObjectException if there is no
+  // run.
+  template <typename Entry>
+  static Entry& Of();
+  // The same object, but null if it has not been made or there is no run.
+  template <typename Entry>
+  static Entry* Find();
+
+  // Destroys the entries, the latest first. To be called while Qt still runs.
+  void DestroyEntries();
+
+  Application* application = nullptr;
+  std::optional<int> end_status;  // once the end has been asked for
+  ProgramGate gate;
+
+ private:
+  static RunState* current_;
+
+  std::vector<std::pair<std::type_index, std::shared_ptr<void>>> entries_;
+};
+
+inline ProgramGate& Gate() { return RunState::Current().gate; }
+
+template <typename Entry>
+Entry* RunState::Find() {
+  if (current_ == nullptr) return nullptr;
+  for (const auto& [type, entry] : current_->entries_) {
+    if (type == typeid(Entry)) return static_cast<Entry*>(entry.get());
+  }
+  return nullptr;
+}
+
+template <typename Entry>
+Entry& RunState::Of() {
+  if (Entry* found = Find<Entry>()) return *found;
+  const auto made = std::make_shared<Entry>();
+  Current().entries_.emplace_back(typeid(Entry), made);
+  return *made;
+}
+
+}  // namespace fundlet

@@ -1,0 +1,160 @@
+#include "desktop/controls/entry_widget.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+
+#include "desktop/base/qt_text.h"
+#include "desktop/base/run_state.h"
+
+namespace fundlet {
+
+namespace {
+
+std::int64_t Length(const QString& text) {
+  return CharactersOf(text, static_cast<int>(text.size()));
+}
+
+// Whether Qt enters the key's text. Control together with Alt is how some keyboards type.
+bool Types(const QKeyEvent& event) {
+  const auto modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  return !event.text().isEmpty() && event.text().at(0) >= ' ' && event.text().at(0) != '\x7F' &&
+         modifiers != Qt::ControlModifier;
+}
+
+// The shortcuts of the Edit menu, which reach a field as keys. Held down, they act once.
+bool IsHeldCommand(const QKeyEvent& event) {
+  const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
+  const bool shortcut = letter && event.modifiers().testFlag(Qt::ControlModifier);
+  return event.isAutoRepeat() && (shortcut || event.matches(QKeySequence::Paste));
+}
+
+// A drop while a handler runs, or a message is open, would change what the handler works on.
+bool TakesDrop(const QLineEdit& field, const QDropEvent& event) {
+  return event.mimeData()->hasText() && !field.isReadOnly() && !Gate().Busy();
+}
+
+}  // namespace
+
+EntryWidget::EntryWidget() {
+  setMaxLength(32767);
+  connect(this, &QLineEdit::textEdited, this, [this] { known_change_ = true; });
+  connect(this, &QLineEdit::textChanged, this, &EntryWidget::Changed);
+}
+
+void EntryWidget::Write(const QString& text) {
+  known_change_ = true;
+  setText(text);
+  known_change_ = false;
+  // Without the focus, the head of the text is to be seen where there is no room for all of it.
+  if (!hasFocus()) setCursorPosition(0);
+}
+
+// An assistive technology sets the text without Qt's taking that for the user's doing.
+void EntryWidget::Changed(const QString& text) {
+  const bool fits = limit_ == 0 || Length(text) <= limit_ || text.size() < known_text_.size();
+  if (std::exchange(known_change_, false) || fits) {
+    known_text_ = text;
+  } else {
+    Write(QString(known_text_));
+    Replace(text);
+  }
+}
+
+bool EntryWidget::HasRoomFor(const QString& typed) const {
+  return limit_ == 0 || Length(text()) - Length(selectedText()) + Length(typed) <= limit_;
+}
+
+void EntryWidget::Insert(const QString& text) {
+  if (isReadOnly()) return;
+  const int begin = hasSelectedText() ? selectionStart() : cursorPosition();
+  const QString behind = this->text().mid(begin + selectedText().size());
+  QString outcome = this->text().left(begin) + text.trimmed() + behind;
+  const std::optional<QString> entry = Judge ? Judge(outcome) : outcome;
+  const bool changes = entry && !text.trimmed().isEmpty();
+  if (!changes || (limit_ > 0 && Length(*entry) > limit_)) {
+    QApplication::beep();
+    return;
+  }
+  selectAll();
+  insert(*entry);
+  setCursorPosition(static_cast<int>(std::max<qsizetype>(0, entry->size() - behind.size())));
+}
+
+void EntryWidget::Replace(const QString& text) {
+  AboutToReplace();
+  selectAll();
+  Insert(text);
+  Replaced();
+}
+
+void EntryWidget::PasteFrom(QClipboard::Mode mode) {
+  Insert(QGuiApplication::clipboard()->text(mode));
+}
+
+void EntryWidget::keyPressEvent(QKeyEvent* event) {
+  if (IsHeldCommand(*event)) return;
+  if (event->matches(QKeySequence::Paste)) {
+    const bool selection = event->key() == Qt::Key_Insert &&
+                           event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    PasteFrom(selection ? QClipboard::Selection : QClipboard::Clipboard);
+  } else if (Types(*event) && !HasRoomFor(event->text())) {
+    QApplication::beep();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+void EntryWidget::inputMethodEvent(QInputMethodEvent* event) {
+  if (!event->commitString().isEmpty() && !HasRoomFor(event->commitString())) {
+    event->setCommitString({});
+    QApplication::beep();
+  }
+  QLineEdit::inputMethodEvent(event);
+}
+
+void EntryWidget::mousePressEvent(QMouseEvent* event) {
+  if (press_selected_all_ || event->button() == Qt::MiddleButton) return;
+  QLineEdit::mousePressEvent(event);
+}
+
+void EntryWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (!press_selected_all_) QLineEdit::mouseMoveEvent(event);
+}
+
+void EntryWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const bool selected_all = std::exchange(press_selected_all_, false);
+  if (event->button() == Qt::MiddleButton) {
+    const bool pastes = QGuiApplication::clipboard()->supportsSelection() && !isReadOnly() &&
+                        rect().contains(event->pos());
+    if (pastes) Replace(QGuiApplication::clipboard()->text(QClipboard::Selection));
+  } else if (!selected_all) {
+    QLineEdit::mouseReleaseEvent(event);
+  }
+}
+
+// Qt's own waits for a third click, which selects the whole text too.
+void EntryWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  QLineEdit::mouseDoubleClickEvent(event);
+  selectAll();
+  press_selected_all_ = true;
+}
+
+void EntryWidget::dragEnterEvent(QDragEnterEvent* event) { dragMoveEvent(event); }
+
+void EntryWidget::dragMoveEvent(QDragMoveEvent* event) {
+  event->setAccepted(TakesDrop(*this, *event));
+}
+
+void EntryWidget::dropEvent(QDropEvent* event) {
+  event->setAccepted(TakesDrop(*this, *event));
+  // What is dragged stays where it comes from, as copying leaves it.
+  event->setDropAction(Qt::CopyAction);
+  if (event->isAccepted()) Replace(event->mimeData()->text());
+}
+
+}  // namespace fundlet

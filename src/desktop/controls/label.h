@@ -1,0 +1,30 @@
+#pragma once
+
+#include "desktop/controls/control.h"
+
+namespace fundlet {
+
+// One line of text that cannot be edited.
+class Label : public TextControl {
+ public:
+  explicit Label(ControlOwner& owner);
+
+  std::string Text() const;
+  void SetText(std::string_view text);
+  void SetTextAlign(std::int64_t align);  // one of kLabelAlignment
+  void SetTextColor(Colour colour);
+  // Makes this the label of a control: its text is the control's name for a screen reader.
+  void SetLabelFor(const Control& control);
+  // Has a screen reader speak each text that is set from now on, wherever the focus is.
+  void SetAnnounced() { announced_ = true; }
+
+  PropertyTable Properties() const override;
+
+ protected:
+  std::string WidestText() const override { return Text(); }
+
+ private:
+  bool announced_ = false;
+};
+
+}  // namespace fundlet

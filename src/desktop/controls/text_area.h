@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+
+#include "desktop/controls/control.h"
+
+namespace fundlet {
+
+// A text of many lines, wrapped at the control's width. A line ends in a carriage return. Offsets
+// and lengths count characters.
+class TextArea : public TextControl {
+ public:
+  explicit TextArea(ControlOwner& owner);
+
+  std::string Text() const;
+  void SetText(std::string_view text);
+  // Neither scrolls the page.
+  void SetSelStart(std::int64_t start);
+  void SetSelLength(std::int64_t length);
+  std::int64_t SelStart() const;
+  std::int64_t SelLength() const;
+  void SetReadOnly(bool read_only);
+  void SetScrollbarVertical(bool shown);
+  void SetScrollbarHorizontal(bool shown);  // without it, long lines wrap
+  void SetBorder(bool border);
+  void SetBackColor(Colour colour);
+  void SetTextColor(Colour colour);
+
+  std::function<void(TextArea&)> GotFocus;
+
+  void FireGotFocus() override;
+  // A text of many lines is only ever read, so it can be copied from. It keeps its selection when
+  // the focus goes on to a button.
+  bool CanEdit(EditCommand command) const override;
+  void Edit(EditCommand command) override;
+
+  PropertyTable Properties() const override;
+};
+
+}  // namespace fundlet

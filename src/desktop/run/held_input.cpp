@@ -1,0 +1,211 @@
+#include "desktop/run/held_input.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+#include "desktop/base/application.h"
+#include "desktop/base/run_state.h"
+#include "desktop/drawing/own_frame.h"
+#include "desktop/windows/modal_dialog.h"
+#include "desktop/windows/native_window.h"
+#include "services/background.h"
+
+// The road that the keys take in Qt before they reach a widget, as its QTest takes it for keys that
+// do not come from the desktop: first ShortcutOverride, then the shortcuts.
+QT_BEGIN_NAMESPACE
+// NOLINTNEXTLINE(misc-use-internal-linkage)
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
+                                               Qt::KeyboardModifiers modifiers, const QString& text,
+                                               bool repeated, ushort count);
+QT_END_NAMESPACE
+
+namespace fundlet {
+
+namespace {
+
+// How often a computation lets Qt work. The yields between two looks at the clock take
+// some tenths of a millisecond.
+constexpr qint64 kPumpMilliseconds = 8;
+constexpr int kYieldsPerLook = 20'000;
+
+// How long a click waits for the activation of its window, which may not come.
+constexpr int kPatienceMilliseconds = 200;
+
+bool IsUserInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu:
+    case QEvent::Close:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool IsKey(const QEvent& event) {
+  return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
+         event.type() == QEvent::ShortcutOverride;
+}
+
+bool IsHeldShortcut(const QEvent& event) {
+  if (!IsKey(event)) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  return key.isAutoRepeat() && key.modifiers().testFlag(Qt::ControlModifier);
+}
+
+bool IsCancelGesture(const QEvent& event) {
+  if (!IsKey(event)) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+  return (key.key() == Qt::Key_Escape && modifiers == Qt::NoModifier) ||
+         // Some keyboards have the full stop on the shift key.
+         (key.key() == Qt::Key_Period && (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier);
+}
+
+}  // namespace
+
+HeldInput::HeldInput() {
+  QCoreApplication::instance()->installEventFilter(this);
+  patience_.setSingleShot(true);
+  patience_.setInterval(kPatienceMilliseconds);
+  connect(&patience_, &QTimer::timeout, this, &HeldInput::StopAwaiting);
+  SetBackgroundTask(&HeldInput::Look);
+}
+
+HeldInput::~HeldInput() { SetBackgroundTask(nullptr); }
+
+int HeldInput::Look() {
+  RunState::Of<HeldInput>().PumpIfDue();
+  return kYieldsPerLook;
+}
+
+void HeldInput::PumpIfDue() {
+  const bool due = !since_pump_.isValid() || since_pump_.elapsed() >= kPumpMilliseconds;
+  if (!due || pumping_ || !Gate().Busy()) return;
+  const QScopedValueRollback pumping(pumping_, true);
+  QCoreApplication::processEvents();
+  since_pump_.start();
+}
+
+bool HeldInput::MustHold() const {
+  const bool behind_held = !held_.empty() && !replaying_ && !Gate().Busy();
+  return pumping_ || awaited_ != nullptr || behind_held;
+}
+
+bool HeldInput::ComesBeforeActivation(QObject* object, const QEvent& event) const {
+  return QGuiApplication::platformName().startsWith("wayland") && !replaying_ &&
+         event.type() == QEvent::MouseButtonPress && object->isWindowType() &&
+         object != QGuiApplication::focusWindow() && NativeWindow::Of(object) != nullptr &&
+         !ModalDialog::IsOpen() && QApplication::activePopupWidget() == nullptr &&
+         !OwnFrame::Takes(object, event);
+}
+
+void HeldInput::StopAwaiting() {
+  awaited_.clear();
+  patience_.stop();
+  ScheduleReplay();
+}
+
+// Where the halves of a repetition reach Qt apart, it takes them for a release and a fresh
+// press. Their times tell: no hand lets go and presses again within one millisecond.
+bool HeldInput::IsUntoldRepeat(QObject* object, const QEvent& event) {
+  if (!IsKey(event) || !object->isWindowType()) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  // A screen reader's side hands keys on without their times.
+  if (key.nativeScanCode() == 0 || key.timestamp() == 0) return false;
+  const std::pair stroke(key.nativeScanCode(), key.timestamp());
+  if (event.type() == QEvent::KeyRelease) last_release_ = stroke;
+  return event.type() != QEvent::KeyRelease && !key.isAutoRepeat() && stroke == last_release_;
+}
+
+// A repetition that Qt has not told as one: told now.
+void HeldInput::TellRepeat(QObject* object, QEvent& event) {
+  event.accept();
+  if (event.type() != QEvent::KeyPress) return;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  QKeyEvent repeat(key.type(), key.key(), key.modifiers(), key.nativeScanCode(),
+                   key.nativeVirtualKey(), key.nativeModifiers(), key.text(), true);
+  QCoreApplication::sendEvent(object, &repeat);
+}
+
+bool HeldInput::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) StopAwaiting();
+  // An end that the desktop asks for, as that of its session, closes an open message like any
+  // answer. It has to be the program's end too, also while the start waits for that answer.
+  if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
+  if (!IsUserInput(*event)) return false;
+  if (IsUntoldRepeat(object, *event)) {
+    TellRepeat(object, *event);
+    return true;
+  }
+  if (pumping_ && IsCancelGesture(*event)) {
+    if (event->type() == QEvent::KeyPress) SetUserCancelled(true);
+    event->accept();
+    return true;
+  }
+  if (!MustHold() && ComesBeforeActivation(object, *event)) {
+    awaited_ = qobject_cast<QWindow*>(object);
+    patience_.start();
+  }
+  if (MustHold()) return Hold(object, event);
+  if (ModalDialog::Blocks(object, *event)) {
+    event->accept();
+    return true;
+  }
+  return false;
+}
+
+bool HeldInput::Hold(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::Close) {
+    event->ignore();
+  } else {
+    event->accept();
+  }
+  // A shortcut is looked for when its key is delivered. One that is held down acts once.
+  if (event->type() != QEvent::ShortcutOverride && !IsHeldShortcut(*event)) {
+    held_.push_back({object, std::unique_ptr<QEvent>(event->clone())});
+  }
+  return true;
+}
+
+void HeldInput::ScheduleReplay() {
+  if (held_.empty() || replay_scheduled_) return;
+  replay_scheduled_ = true;
+  QMetaObject::invokeMethod(this, &HeldInput::ReplayNext, Qt::QueuedConnection);
+}
+
+void HeldInput::ReplayNext() {
+  replay_scheduled_ = false;
+  // The gate calls again when it is idle.
+  if (held_.empty() || awaited_ != nullptr || Gate().Busy()) return;
+  const Held next = std::move(held_.front());
+  held_.pop_front();
+  if (next.receiver != nullptr) {
+    const QScopedValueRollback replaying(replaying_, true);
+    Deliver(*next.receiver, *next.event);
+  }
+  ScheduleReplay();
+}
+
+void HeldInput::Deliver(QObject& receiver, QEvent& event) {
+  if (event.type() == QEvent::KeyPress) {
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    const bool shortcut = qt_sendShortcutOverrideEvent(
+        &receiver, key.timestamp(), key.key(), key.modifiers(), key.text(), key.isAutoRepeat(), 1);
+    if (shortcut) return;
+  }
+  QCoreApplication::sendEvent(&receiver, &event);
+}
+
+}  // namespace fundlet

@@ -1,0 +1,85 @@
+#include "desktop/run/runtime.h"
+
+#include <future>
+#include <map>
+#include <utility>
+
+#include <QApplication>
+#include <QFontDatabase>
+
+#include "desktop/accessibility/screen_reader.h"
+#include "desktop/base/qt_text.h"
+#include "desktop/base/run_state.h"
+#include "desktop/drawing/program_style.h"
+#include "desktop/run/held_input.h"
+
+namespace fundlet {
+
+namespace {
+
+struct ImplicitInstances {
+  std::map<std::string, std::unique_ptr<Window>> by_class;
+};
+
+}  // namespace
+
+// Opening a window may show a message, whose answer may ask for the instance again.
+Window& ImplicitInstance(const std::string& class_name,
+                         const std::function<std::unique_ptr<Window>()>& make) {
+  std::unique_ptr<Window>& instance = RunState::Of<ImplicitInstances>().by_class[class_name];
+  if (instance) return *instance;
+  instance = make();
+  instance->Open();
+  instance->Show();
+  return *instance;
+}
+
+struct Runtime::Parts {
+  explicit Parts(std::string name) : program(std::move(name)) {}
+
+  RunState state;  // goes last
+  std::string program;
+  int argument_count = 1;
+  char* arguments[2] = {program.data(), nullptr};
+  std::unique_ptr<QApplication> application;
+  std::future<void> font_search;  // waits for its end when it goes
+};
+
+Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {}
+
+Runtime::~Runtime() {
+  Gate().Shut();
+  parts_->state.DestroyEntries();
+}
+
+void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {
+  early();
+#ifdef Q_OS_LINUX
+  // The style whose controls fit the heights of the layout.
+  QApplication::setStyle(new ProgramStyle);
+#endif
+  parts_->application = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
+  // Qt's search for fonts takes a good part of the opening, and runs beside the connection
+  // to the desktop from here on. Nothing of the program's own leaves this thread.
+  parts_->font_search = std::async([] { QFontDatabase::families(); });
+  QApplication::setApplicationName(ToQt(App().Name));
+  QApplication::setApplicationVersion(ToQt(App().Version));
+  QApplication::setDesktopFileName(ToQt(App().DesktopFile));
+  QApplication::setQuitOnLastWindowClosed(false);
+  auto& held_input = RunState::Of<HeldInput>();
+  RunState::Of<ScreenReader>();
+  const auto show_enabling = [] {
+    if (Window* front = Window::Front(); front != nullptr) front->EnableMenuItems();
+  };
+  Gate().SetHooks({App().Report, show_enabling, [&held_input] { held_input.ScheduleReplay(); }});
+  Gate().Enter("Start", late);
+}
+
+int Runtime::Run() {
+  // Qt forgets an end that was asked for before its loop runs.
+  if (const std::optional<int> status = parts_->state.end_status) return *status;
+  if (Window::Front() == nullptr) return 1;
+  return QApplication::exec();
+}
+
+}  // namespace fundlet

@@ -1,0 +1,188 @@
+#include "desktop/windows/native_window.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPalette>
+#include <QWindow>
+
+#include "desktop/base/application.h"
+#include "desktop/base/qt_text.h"
+#include "desktop/controls/control.h"
+#include "desktop/drawing/own_frame.h"
+#include "desktop/drawing/program_style.h"
+#include "desktop/windows/window_events.h"
+
+namespace fundlet {
+
+namespace {
+
+// The content area. It draws the ring round the control that has the focus, in the gap that the
+// layout leaves between the controls.
+class ContentWidget : public QWidget {
+ public:
+  ContentWidget(const WindowEvents& window, QWidget* parent) : QWidget(parent), window_(window) {}
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    constexpr int kRingWidth = 2;
+    const Control* focused = window_.Focused();
+    if (focused == nullptr || !focused->UseFocusRing()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), kRingWidth));
+    const QRectF control = focused->Native()->geometry();
+    const double half = kRingWidth / 2.0;
+    painter.drawRoundedRect(control.adjusted(-half, -half, half, half), kRingWidth, kRingWidth);
+  }
+
+ private:
+  const WindowEvents& window_;
+};
+
+void ReadProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 64, 128}) {
+    icon.addFile(ToQt(App().IconFiles).arg(size), QSize(size, size));
+  }
+  QApplication::setWindowIcon(icon);
+}
+
+}  // namespace
+
+NativeWindow::NativeWindow(WindowEvents& window) : window_(window) {
+  setAttribute(Qt::WA_DeleteOnClose, false);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                 Qt::WindowSystemMenuHint);
+  setCentralWidget(new QWidget);
+  content_ = new ContentWidget(window, centralWidget());
+  centralWidget()->installEventFilter(this);
+  layout()->setSizeConstraint(QLayout::SetNoConstraint);
+}
+
+NativeWindow* NativeWindow::Of(QObject* object) {
+  if (auto* widget = qobject_cast<QWidget*>(object)) {
+    return dynamic_cast<NativeWindow*>(widget->window());
+  }
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    auto* window = dynamic_cast<NativeWindow*>(top);
+    if (window != nullptr && window->windowHandle() == object) return window;
+  }
+  return nullptr;
+}
+
+void NativeWindow::SetContentSize(int width, int height) {
+  content_size_ = {width, height};
+  FitToContent();
+}
+
+QSize NativeWindow::ContentSize() const {
+  return isVisible() && resizeable_ ? content_->size() : content_size_;
+}
+
+void NativeWindow::SetSmallest(int width, int height) {
+  smallest_ = {width, height};
+  FitToContent();
+}
+
+void NativeWindow::SetLargest(int width, int height) {
+  largest_ = {width, height};
+  FitToContent();
+}
+
+void NativeWindow::SetResizeable(bool resizeable) {
+  resizeable_ = resizeable;
+  FitToContent();
+}
+
+QSize NativeWindow::Outside() const {
+  const QMargins margins = contentsMargins();
+  const int menu_height = menus_ ? menuBar()->heightForWidth(content_size_.width()) : 0;
+  return {margins.left() + margins.right(), margins.top() + margins.bottom() + menu_height};
+}
+
+void NativeWindow::FitToContent() {
+  outside_ = Outside();
+  const QSize largest(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  if (takes_any_size_) {
+    setMinimumSize(resizeable_ ? smallest_ + outside_ : QSize(0, 0));
+    setMaximumSize(largest);
+  } else {
+    setMinimumSize((resizeable_ ? smallest_ : content_size_) + outside_);
+    setMaximumSize(((resizeable_ ? largest_ : content_size_) + outside_).boundedTo(largest));
+  }
+  content_->resize(content_size_);
+  if (!isMaximized() && !isFullScreen()) resize(content_size_ + outside_);
+}
+
+void NativeWindow::SetButton(Qt::WindowType button, bool present) {
+  setWindowFlag(button, present);
+}
+
+void NativeWindow::SetBackColor(Colour colour) {
+  centralWidget()->setPalette(PaletteFor(QColor(colour.red, colour.green, colour.blue)));
+}
+
+void NativeWindow::SetHasBackColor(bool painted) {
+  centralWidget()->setAutoFillBackground(painted);
+}
+
+void NativeWindow::ShowMenus(const MenuItem& tree, MenuView::Acts acts) {
+  if (!menu_bar_visible_) return;
+  menus_ = std::make_unique<MenuView>(std::move(acts), tree, *menuBar());
+  FitToContent();
+}
+
+void NativeWindow::ShowFirst() {
+  show();
+  // The frame takes nothing from the content.
+  const bool resizeable = std::exchange(resizeable_, false);
+  takes_any_size_ = OwnFrame::PutRound(*this);
+  resizeable_ = resizeable;
+  if (takes_any_size_) FitToContent();
+}
+
+bool NativeWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) window_.Activated();
+  if (event->type() == QEvent::WindowDeactivate) window_.Deactivated();
+  const bool used = QMainWindow::event(event);
+  if (event->type() == QEvent::LayoutRequest && Outside() != outside_) FitToContent();
+  return used;
+}
+
+// The icon is read when the first window has been painted: nobody is to wait for it.
+void NativeWindow::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (QApplication::windowIcon().isNull()) {
+    QMetaObject::invokeMethod(qApp, ReadProgramIcon, Qt::QueuedConnection);
+  }
+}
+
+void NativeWindow::closeEvent(QCloseEvent* event) {
+  window_.CloseAsked();
+  event->accept();
+}
+
+void NativeWindow::keyPressEvent(QKeyEvent* event) {
+  event->setAccepted(window_.KeyPressed(*event));
+}
+
+bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
+  const bool resized =
+      object == centralWidget() && event->type() == QEvent::Resize && resizeable_ && isVisible();
+  // The first show brings a resize to the size that the window was made with, which is none.
+  if (resized && centralWidget()->size() != content_size_) {
+    content_size_ = centralWidget()->size();
+    content_->resize(content_size_);
+    window_.Resized();
+  }
+  return QMainWindow::eventFilter(object, event);
+}
+
+}  // namespace fundlet
