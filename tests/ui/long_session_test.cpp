@@ -10,7 +10,8 @@ namespace {
 
 using LongSession = StartedTest;
 
-// The bytes that the program has asked for and not given back.
+// The bytes that are allocated at the moment; always 0 under AddressSanitizer, whose allocator is
+// another.
 auto MemoryInUse() { return static_cast<long>(mallinfo2().uordblks + mallinfo2().hblkhd); }
 
 auto OpenFiles() {
@@ -31,19 +32,20 @@ void Use(int rounds) {
   }
 }
 
-// What is kept for use again grows less and less from round to round, a leak grows on.
+// Caches grow less and less from round to round, a leak grows on. Without a measure of the memory
+// only the open files are compared, for which few rounds do.
 TEST_F(LongSession, LeavesMemoryAndOpenFilesAsTheyWere) {
-  constexpr int kRounds = 50;
-  constexpr long kNoGrowth = kRounds * 100L;  // bytes
-  Use(kRounds);
+  const int rounds = MemoryInUse() > 0 ? 50 : 5;
+  const long no_growth = rounds * 100L;  // bytes
+  Use(rounds);
   const auto files = OpenFiles();
-  long growth = kNoGrowth;
-  for (int tries = 0; tries < 16 && growth >= kNoGrowth; ++tries) {
+  long growth = no_growth;
+  for (int tries = 0; tries < 16 && growth >= no_growth; ++tries) {
     const long before = MemoryInUse();
-    Use(kRounds);
+    Use(rounds);
     growth = MemoryInUse() - before;
   }
-  EXPECT_LT(growth, kNoGrowth);
+  EXPECT_LT(growth, no_growth);
   EXPECT_EQ(OpenFiles(), files);
 }
 
