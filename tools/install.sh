@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# To be sourced. Installs what a purpose needs and the machine lacks, through Debian's packages.
+# To be sourced. Installs what a purpose needs and the machine lacks, from Debian's packages.
 
-# Purpose, package, and the command that shows it to be there already, whoever installed it.
-# A dash stands for a library or data, of which only the package manager knows.
+# Purpose, package, and a command of the package: where the command exists, nothing is installed.
+# A dash stands for a package without one, a library or data; dpkg-query is asked about it.
 package_table() {
   cat <<'TABLE'
 build   cmake             cmake
@@ -64,13 +64,19 @@ fail() {
   exit 1
 }
 
+# Ends a script that was given arguments it does not know.
+usage() {
+  printf 'usage: %s\n' "$*" >&2
+  exit 2
+}
+
 package_is_there() {
   local package=$1 command=$2
   if [ "$command" != - ] && have "$command"; then return 0; fi
   if have dpkg-query; then
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ]
   else
-    # Elsewhere a library's absence is for CMake to report.
+    # Without dpkg nobody knows; CMake reports a library that is missing.
     [ "$command" = - ]
   fi
 }
@@ -101,16 +107,16 @@ install_for() {
   missing=$(missing_packages "$@")
   missing=${missing% }
   [ -n "$missing" ] || return 0
-  have apt-get || fail "This machine lacks what Debian's packages $missing hold, and there is no
-apt-get to install them. Install their like by this system's own means: CMake 3.25, Ninja, a
-compiler of C++20 and the Qt 6.4 Widgets with their headers are what the program is built with."
+  have apt-get || fail "These packages of Debian are missing, and there is no apt-get: $missing
+Install the same software with this system's own package manager. The program is built with CMake
+3.25, Ninja, a compiler for C++20, and Qt 6.4 Widgets with its headers."
   can_be_root || fail "These packages are missing: $missing
-Only root can install them, and there is no sudo that lets you. As root, run
+Only root can install them, and sudo is missing or asks for a password without a terminal. As root, run
   apt-get install --no-install-recommends $missing
-and then start this again."
+and then start this script again."
   printf 'Installing with apt-get: %s\n' "$missing"
   # shellcheck disable=SC2086  # one word for each package
   { apt_get update && apt_get install -y --no-install-recommends $missing; } ||
     fail "apt-get could not install $missing
-Its own words stand above. It needs the network, and a release as new as Debian 12."
+Its message stands above. It needs the network, and Debian 12 or newer."
 }
