@@ -31,6 +31,12 @@ validate_metainfo "$folder"/build/packaging/*.metainfo.xml
 grep -q '<image>https://example.org/' "$folder"/build/packaging/*.metainfo.xml ||
   fail 'the screenshot is not in the metainfo'
 
+# The version is given in project() alone; everything else takes it from there.
+version=$(sed -n 's/^project(Fundlet VERSION \([^ ]*\).*/\1/p' "$source/CMakeLists.txt")
+copies=$(cd "$source" && grep -rIE --exclude-dir='build*' --exclude-dir=.git \
+  "([Vv]ersion|[Ff]undlet)[ _\"(=]*${version//./\\.}([^0-9.]|$)" .) && fail "another version:"$'\n'"$copies"
+grep -q "^## $version\$" "$source/CHANGELOG.md" || fail "CHANGELOG.md has nothing on $version"
+
 remarks=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z \
   "$share/man/man1/fundlet.1" 2>&1 >/dev/null)
 [ -z "$remarks" ] || fail "manual page: $remarks"

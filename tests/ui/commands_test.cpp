@@ -127,7 +127,7 @@ TEST_F(Commands, AboutShowsTheVersionOrTellsOfAFunctionThatIsNotFound) {
   }
   SimulateMissingLibraries(false);
   EXPECT_EQ(TakeDialogs(),
-            (Texts{"FundletVersion 5",
+            (Texts{"FundletVersion " FUNDLET_VERSION,
                    "“About Fundlet…” could not be carried out. The function “NSClassFromString” "
                    "was not found in the library “Cocoa”."}));
 }
