@@ -4,11 +4,11 @@
 
 namespace fundlet {
 
-// The application object. It has no behaviour of its own: the main window's opening starts
-// everything.
+// The application object. It has no behaviour of its own; opening the main window starts the
+// program's work.
 class MyApplication : public Application {
  public:
-  // The steps of the start: before Qt is there, and after.
+  // The steps of the start, before and after the QApplication is made.
   static void _EarlyStartup();
   static void _LateStartup();
 
@@ -17,7 +17,8 @@ class MyApplication : public Application {
   static void _MakeDefaultView();
 };
 
-// Runs the program from its start to its end, and gives the exit status.
+// Runs the program and returns its exit status. `program` is the name by which the process was
+// started.
 int RunFundlet(const char* program);
 
 }  // namespace fundlet

@@ -2,8 +2,8 @@
 
 namespace fundlet {
 
-// Asks the system for the program's standard about panel. True when it was asked for; an exception
-// where the system offers none.
+// Asks the system to show the program's standard about panel, and returns true. RuntimeException if
+// the system function is not found.
 bool ShowAboutPanel();
 
 }  // namespace fundlet

@@ -4,16 +4,15 @@
 
 namespace fundlet {
 
-// The one menu bar of the program: its tree is built once and shared by the application and its
-// windows.
+// The one menu bar of the program, which the application and all windows share.
 class DefaultMenu : public MenuBar {
  public:
-  // The one instance, made at the first call.
+  // The one instance, built at the first call.
   static DefaultMenu& Instance();
 
  private:
   DefaultMenu();
-  // Each builds one of the top-level menus.
+  // Each builds one top-level menu.
   static void Untitled0(MenuBar& menu);
   static void Untitled1(MenuBar& menu);
   static void Untitled2(MenuBar& menu);

@@ -6,7 +6,7 @@
 namespace fundlet {
 
 bool GlobalModule::HelpShowing = false;
-// Never destroyed, so that no window is touched where the process is ended from within Qt.
+// Never destroyed: if Qt ends the process by exit(), no window may be destroyed after QApplication.
 std::shared_ptr<aHelpWindow>& GlobalModule::HelpWindow = *new std::shared_ptr<aHelpWindow>;
 
 void GlobalModule::Initialise() {

@@ -7,19 +7,19 @@ namespace fundlet {
 
 class aHelpWindow;
 
-// The few things that the windows share.
+// The state and the one routine that all windows share.
 struct GlobalModule {
   // Shows a message with the alert sound over the frontmost window, and returns when the user has
-  // dismissed it. All that the program has to tell goes through here; the save dialog asks by
-  // itself whether it may replace a file.
+  // dismissed it. Every message of the program is shown by this function, except those of the save
+  // dialog about the name being chosen.
   static void AlertBox(const std::string& message);
 
-  // The start values, and the end of what the module holds.
+  // Sets the start values; releases the Help window at the end of a run.
   static void Initialise();
   static void Release();
 
-  static bool HelpShowing;                          // a Help window is open
-  static std::shared_ptr<aHelpWindow>& HelpWindow;  // the one made last, open or closed
+  static bool HelpShowing;                          // whether a Help window is open
+  static std::shared_ptr<aHelpWindow>& HelpWindow;  // the latest Help window, open or closed
 };
 
 }  // namespace fundlet

@@ -4,7 +4,7 @@ namespace fundlet {
 
 namespace {
 
-// The lines in order; an empty one stands between two paragraphs.
+// An empty line separates two paragraphs.
 constexpr const char* kLines[] = {
     "Fundlet",
     "Version " FUNDLET_VERSION,

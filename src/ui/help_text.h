@@ -4,7 +4,7 @@
 
 namespace fundlet {
 
-// The one page of help. A line ends in a carriage return, the last line in nothing.
+// The help page. Its lines are separated by carriage returns.
 std::string HelpText();
 
 }  // namespace fundlet

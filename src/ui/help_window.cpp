@@ -16,8 +16,8 @@ constexpr int kHeight = 430;
 constexpr int kTextWidth = 452;
 constexpr int kTextHeight = 356;
 
-// Where the button goes once the window has been resized, at the size of creation. It is not quite
-// where it stands before.
+// The place of the button at the size of creation once the window has been resized; it differs
+// slightly from the place at creation.
 constexpr int kResizedButtonLeft = 403;
 constexpr int kResizedButtonTop = 395;
 

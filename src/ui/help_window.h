@@ -6,8 +6,8 @@
 
 namespace fundlet {
 
-// The window with the one page of help: its text is read-only, and its two controls follow its
-// size. At most one is open; a closed one is never shown again.
+// The window with the help page: its text is read-only, and its two controls follow its size. At
+// most one is open; a closed one is never shown again.
 class aHelpWindow : public Window {
  public:
   aHelpWindow();
@@ -28,7 +28,7 @@ class aHelpWindow : public Window {
   void Event_Close() override;
   void Event_EnableMenuItems() override;
   void Event_Open() override;
-  // With this window in front, asking for the help changes nothing.
+  // Does nothing: the help is in front already. False.
   bool _HelpFundlet_Action();
 };
 

@@ -18,7 +18,7 @@ namespace fundlet {
 
 namespace {
 
-constexpr int kTitleBarHeight = 24;  // pixels that the frame is taken to need above the window
+constexpr int kTitleBarHeight = 24;  // pixels above the content
 
 }  // namespace
 
@@ -137,16 +137,16 @@ bool aFundletWindow::ErrorDetected() { return fundlet::ErrorDetected(plan_, *thi
 void aFundletWindow::DisplayParameters() { fundlet::DisplayParameters(plan_, *this); }
 void aFundletWindow::Refocus() { fundlet::Refocus(plan_, *this); }
 
-bool aFundletWindow::ShowSurvival(double fraction) {
+bool aFundletWindow::FillInLifeExpectancy(double fraction) {
   CalculateSurvival(fraction);
   SetText(FocusCode::YearsLeft, Str(plan_.YearsLeft));
   SetFocus(FocusCode::YearsLeft);
   return false;
 }
 
-bool aFundletWindow::_Survival8_Action() { return ShowSurvival(0.125); }
-bool aFundletWindow::_Survival2_Action() { return ShowSurvival(0.5); }
-bool aFundletWindow::_Survival3_Action() { return ShowSurvival(0.25); }
+bool aFundletWindow::_Survival8_Action() { return FillInLifeExpectancy(0.125); }
+bool aFundletWindow::_Survival2_Action() { return FillInLifeExpectancy(0.5); }
+bool aFundletWindow::_Survival3_Action() { return FillInLifeExpectancy(0.25); }
 
 bool aFundletWindow::_FileRestore_Action() {
   RestoreParameters();

@@ -15,23 +15,24 @@
 
 namespace fundlet {
 
-// The main window: it owns the one plan of the run and ties the plan's operations to the controls,
-// the menus and the events. Its opening starts everything and its closing ends everything.
+// The main window: it owns the one plan of the run and connects the plan's operations with the
+// controls, the menus and the events. Opening it starts the program's work, closing it ends the
+// program.
 class aFundletWindow : public Window, private EntryForm {
  public:
-  // The one main window, made and opened at the first call.
+  // The one main window, made, opened and shown at the first call.
   static aFundletWindow& Instance();
 
   aFundletWindow();
 
   Plan& ThePlan() { return plan_; }
 
-  // Making the window.
+  // The parts of the construction.
   void Layout();
   void CreateControls();
   void _CreateControls0();
 
-  // The controls, looked up by their names at each call.
+  // The controls, looked up by name at each call.
   Label& StaticText1() const { return ControlOf<Label>("StaticText1"); }
   TextField& StartYearField() const { return ControlOf<TextField>("StartYearField"); }
   Label& StaticText2() const { return ControlOf<Label>("StaticText2"); }
@@ -73,7 +74,7 @@ class aFundletWindow : public Window, private EntryForm {
   void DisplayParameters();
   void Refocus();
 
-  // The fields: the focus has come or gone, or a key was pressed; True uses the key up.
+  // The handlers of the fields. KeyDown returns True if it has used the key.
   void StartYearField_GotFocus(TextField&) { GotFocus(FocusCode::StartYear); }
   void StartYearField_LostFocus(TextField&) { LostFocus(FocusCode::StartYear); }
   bool StartYearField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
@@ -99,7 +100,8 @@ class aFundletWindow : public Window, private EntryForm {
   void EndFundletField_LostFocus(TextField&) { LostFocus(FocusCode::EndFundlet); }
   bool EndFundletField_KeyDown(TextField&, const std::string& key) { return KeyDown(key); }
 
-  // The buttons.
+  // The handlers of the buttons. The names are fixed and differ from the captions: PrintButton
+  // saves the schedule, SaveButton remembers the parameters, RestoreButton recalls them.
   void CalculateButton_Action(PushButton& button);
   void PrintButton_Action(PushButton& button);
   void SaveButton_Action(PushButton& button);
@@ -114,7 +116,9 @@ class aFundletWindow : public Window, private EntryForm {
   bool Event_KeyDown(const std::string& key) override;
   void AddMenuHandlers();
 
-  // The menu commands. What they return goes back to the menus, and means nothing there.
+  // The handlers of the menu items, whose results are ignored. Survival2, Survival3 and Survival8
+  // stand for one half, one quarter and one eighth; FileParams remembers the parameters,
+  // FileRestore recalls them, FileSave saves the schedule.
   bool _Survival8_Action();
   bool _Survival2_Action();
   bool _Survival3_Action();
@@ -124,7 +128,7 @@ class aFundletWindow : public Window, private EntryForm {
   bool _FileSave_Action();
   bool _HelpFundlet_Action();
 
-  // The items of the menus, looked up by their names at each call.
+  // The menu items, looked up by name at each call.
   MenuItem& HelpMenu() const { return Item<MenuItem>("HelpMenu"); }
   MenuItem& HelpFundlet() const { return Item<MenuItem>("HelpFundlet"); }
   MenuItem& UntitledMenu0() const { return Item<MenuItem>("UntitledMenu0"); }
@@ -158,7 +162,7 @@ class aFundletWindow : public Window, private EntryForm {
   MenuItem& UntitledMenu6() const { return Item<MenuItem>("UntitledMenu6"); }
 
  private:
-  // The window as its plan sees it.
+  // EntryForm.
   std::string Text(FocusCode field) const override;
   void SetText(FocusCode field, const std::string& text) override;
   void SelectAll(FocusCode field) override;
@@ -170,7 +174,8 @@ class aFundletWindow : public Window, private EntryForm {
   template <typename ItemClass>
   ItemClass& Item(const char* name) const;
   void PlaceOnScreen();
-  bool ShowSurvival(double fraction);
+  // Sets the life expectancy by the life table, shows it and moves the focus to it. False.
+  bool FillInLifeExpectancy(double fraction);
 
   void GotFocus(FocusCode field) { EnterField(plan_, field, *this); }
   void LostFocus(FocusCode field) { LeaveField(plan_, field, *this); }

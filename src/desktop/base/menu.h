@@ -8,13 +8,12 @@
 
 namespace fundlet {
 
-// What an item does to the text that has the focus.
+// An item's effect on the text that has the focus.
 enum class EditCommand { None, Undo, Cut, Copy, Paste, Clear };
 
-// One item of the menus, found by its name, which is unique in the whole tree. The tree is data; a
-// window shows it.
+// One item of the menus. Its name is unique in the whole tree. The tree is data; a window shows it.
 //
-// An item whose text is "-" is a separator line. An empty item has no text and is not shown; an
+// An item with the text "-" is a separator line. An empty item has no text and is not shown; an
 // item whose children are all empty works as a command.
 class MenuItem {
  public:
@@ -22,18 +21,18 @@ class MenuItem {
 
   std::string Name;
   std::string Text;
-  bool AutoEnable = false;  // enabled without the program's doing where it can do something
+  bool AutoEnable = false;  // enabled at each menu update if a handler or editing command can act
   bool Visible = false;
   std::string KeyboardShortcut;  // such as "Cmd+S"; empty for none
   EditCommand Edits = EditCommand::None;
 
   void Append(std::unique_ptr<MenuItem> item);
-  // The direct child of that name; NilObjectException where there is none.
+  // The direct child of that name; NilObjectException if there is none.
   MenuItem& Child(std::string_view name) const;
-  // The item of that name at any depth; NilObjectException where there is none.
+  // The item of that name at any depth; NilObjectException if there is none.
   MenuItem& _Lookup(std::string_view name) const;
 
-  // Whether the item can be chosen, as the present update of the menus has it.
+  // Whether the item can be chosen, as of the last menu update.
   void Enable() { enabled_ = true; }
   void Disable() { enabled_ = false; }
   bool Enabled() const { return enabled_; }
@@ -52,10 +51,10 @@ class MenuItem {
   bool enabled_ = false;
 };
 
-// The item that ends the program without any code of the program.
+// The item that quits; it needs no handler.
 class QuitMenuItem : public MenuItem {};
 
-// An item that a platform with an application menu shows there.
+// An item that a platform with an application menu shows in that menu.
 class AppleMenuItem : public MenuItem {};
 
 // The root of a tree of items; its children are the menus of the bar.

@@ -26,27 +26,27 @@ std::string Reason(const std::exception_ptr& failure) {
 
 }  // namespace
 
-void ProgramGate::Report(const std::string& what, const std::exception_ptr& failure) noexcept {
+void ProgramGate::Report(const std::string& command, const std::exception_ptr& failure) noexcept {
   try {
-    const std::string command = what.empty() ? what : "“" + what + "” could not be carried out. ";
-    hooks_.report(command + Reason(failure));
+    const std::string lost = command.empty() ? "" : "“" + command + "” could not be carried out. ";
+    hooks_.report(lost + Reason(failure));
   } catch (...) {
     std::fputs("A failure of the program could not be shown.\n", stderr);
   }
 }
 
-void ProgramGate::RunGuarded(const std::string& what, const std::function<void()>& handler) {
+void ProgramGate::RunGuarded(const std::string& command, const std::function<void()>& handler) {
   ++depth_;
   try {
     handler();
   } catch (...) {
-    Report(what, std::current_exception());
+    Report(command, std::current_exception());
   }
   --depth_;
 }
 
-void ProgramGate::Enter(const std::string& what, std::function<void()> handler) {
-  Run({what, std::move(handler), true});
+void ProgramGate::Enter(const std::string& command, std::function<void()> handler) {
+  Run({command, std::move(handler), true});
 }
 
 void ProgramGate::EnterWithin(const std::function<void()>& handler) {
@@ -59,26 +59,26 @@ void ProgramGate::EnterWithin(const std::function<void()>& handler) {
 
 void ProgramGate::Run(Entry entry) {
   if (shut_) return;
-  waiting_.push_back(std::move(entry));
-  if (!Busy()) RunWaiting();
+  queue_.push_back(std::move(entry));
+  if (!Busy()) RunQueue();
 }
 
-void ProgramGate::RunWaiting() {
-  bool command_ran = false;
-  while (!waiting_.empty()) {
-    const Entry entry = std::move(waiting_.front());
-    waiting_.pop_front();
+void ProgramGate::RunQueue() {
+  bool update_menus = false;
+  while (!queue_.empty()) {
+    const Entry entry = std::move(queue_.front());
+    queue_.pop_front();
     SetUserCancelled(false);
-    RunGuarded(entry.what, entry.handler);
-    command_ran = command_ran || entry.is_command;
+    RunGuarded(entry.command, entry.handler);
+    update_menus = update_menus || entry.updates_menus;
   }
-  if (command_ran && !shut_ && hooks_.commands_done) hooks_.commands_done();
+  if (update_menus && !shut_ && hooks_.update_menus) hooks_.update_menus();
   if (hooks_.idle) hooks_.idle();
 }
 
 void ProgramGate::Shut() {
   shut_ = true;
-  waiting_.clear();
+  queue_.clear();
 }
 
 }  // namespace fundlet

@@ -7,45 +7,44 @@
 
 namespace fundlet {
 
-// Through here every event enters the program. A command, a press of a button, an activation and a
-// request to close run one at a time: what comes while a handler runs waits until it has returned.
-// What the running handler itself brings about (the focus, a key, a new size) is handled within it.
-// An exception that leaves a handler ends here, in a report to the user, and never passes through
-// Qt.
+// Every event enters the program through the gate. Commands, presses of buttons, activations and
+// requests to close run one at a time: while a handler runs, the others wait in a queue. Events
+// that the running handler causes itself (a change of focus, a key, a new size) run inside it. The
+// gate catches each exception that leaves a handler and reports it to the user, so that none passes
+// through Qt.
 class ProgramGate {
  public:
-  // Runs the handler now, or after the one that is running. `what` names the command for the
-  // user, empty for what they have not asked for by a name.
-  void Enter(const std::string& what, std::function<void()> handler);
-  // Runs the handler now, inside the one that is running if there is one: for the events that the
-  // running handler causes and waits for.
+  // Runs the handler now or, if another one is running, after it. `command` is the command's name
+  // for a report of its failure; it is empty for events that have no name for the user.
+  void Enter(const std::string& command, std::function<void()> handler);
+  // Runs the handler now, inside the running one if there is one: for an event that the running
+  // handler causes.
   void EnterWithin(const std::function<void()>& handler);
 
   bool Busy() const { return depth_ > 0; }
-  // What the gate asks of the desktop around it; each may be empty.
   struct Hooks {
-    std::function<void(const std::string& message)> report;  // tells the user of a failure
-    std::function<void()> commands_done;  // the waiting handlers have run, a command among them
-    std::function<void()> idle;           // the last waiting handler has returned
+    std::function<void(const std::string& message)> report;  // shows a failure; may not be empty
+    std::function<void()> update_menus;  // the queue is empty, and a handler came through Enter
+    std::function<void()> idle;          // the queue is empty
   };
   void SetHooks(Hooks hooks) { hooks_ = std::move(hooks); }
-  // The program is ending: nothing that waits is run any more.
+  // The program is ending: drops the queue, and refuses what enters from now on.
   void Shut();
   bool IsShut() const { return shut_; }
 
  private:
   struct Entry {
-    std::string what;
+    std::string command;
     std::function<void()> handler;
-    bool is_command;  // after it, the menus show anew what can be chosen
+    bool updates_menus;
   };
 
   void Run(Entry entry);
-  void RunGuarded(const std::string& what, const std::function<void()>& handler);
-  void RunWaiting();
-  void Report(const std::string& what, const std::exception_ptr& failure) noexcept;
+  void RunGuarded(const std::string& command, const std::function<void()>& handler);
+  void RunQueue();
+  void Report(const std::string& command, const std::exception_ptr& failure) noexcept;
 
-  std::deque<Entry> waiting_;
+  std::deque<Entry> queue_;
   Hooks hooks_;
   int depth_ = 0;
   bool shut_ = false;

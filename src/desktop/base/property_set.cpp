@@ -39,24 +39,24 @@ const Named* FindNamed(std::span<const Named> all, std::string_view name) {
 
 }  // namespace
 
-std::string EncodePropertySet(PropertyTable table, std::span<const Property> own) {
-  for (const Property& property : own) {
+std::string EncodePropertySet(PropertyTable table, std::span<const Property> overrides) {
+  for (const Property& property : overrides) {
     if (FindNamed(table, property.name) == nullptr) {
       throw PropertyError("no place for the property “" + std::string(property.name) + "”");
     }
   }
   std::string set;
   for (const PropertyRow& row : table) {
-    const Property* given = FindNamed(own, row.name);
+    const Property* given = FindNamed(overrides, row.name);
     set.append(row.name) += ' ';
-    std::visit(Encoder{set}, given != nullptr ? given->value : row.common);
+    std::visit(Encoder{set}, given != nullptr ? given->value : row.default_value);
   }
   return set;
 }
 
 namespace {
 
-// What is left of a property set, taken from the front.
+// The part of a property set that has not been read yet.
 class Remainder {
  public:
   explicit Remainder(std::string_view set) : rest_(set) {}
@@ -89,7 +89,7 @@ class Remainder {
   std::string_view rest_;
 };
 
-// Takes a value of the kind that it is called with.
+// Reads a value of the same kind as the argument.
 struct ValueTaker {
   Remainder& rest;
 
@@ -138,7 +138,7 @@ void PropertyTarget::ApplyEntries(std::string_view set) {
       name = rest.TakeName();
       const PropertyRow* row = FindNamed(Properties(), name);
       if (row == nullptr) throw PropertyError("there is no such property");
-      const PropertyValue value = std::visit(ValueTaker{rest}, row->common);
+      const PropertyValue value = std::visit(ValueTaker{rest}, row->default_value);
       if (row->set != nullptr) row->set(*this, value);
     }
   } catch (const PropertyError& error) {

@@ -9,15 +9,15 @@
 #include <string_view>
 #include <variant>
 
-// A property set describes a window or a control as one byte string: entry after entry, each the
-// property's name in ASCII, one space, and the value. A value carries no mark of its kind; the
-// receiver knows it from the name.
+// A property set describes a window or a control as one byte string. Its entries follow one
+// another; each is the property's name in ASCII, one space, and the value. A value carries no mark
+// of its kind, which the receiver knows from the name.
 //
 //   integer  8 bytes, least significant first, signed
 //   boolean  1 byte, 0 or 1
 //   string   4 bytes with the length, least significant first, then UTF-8
 //   single   4 bytes, IEEE 754, least significant first
-//   double   8 bytes, likewise
+//   double   8 bytes, IEEE 754, least significant first
 //   colour   4 bytes: red, green, blue, 0
 namespace fundlet {
 
@@ -37,7 +37,8 @@ struct Property {
   PropertyValue value;
 };
 
-// A property set that cannot be made or applied. The message names the object and the property.
+// A property set cannot be made or applied. The message names the property and, if a set is being
+// applied, the object.
 class PropertyError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -45,17 +46,18 @@ class PropertyError : public std::runtime_error {
 
 class PropertyTarget;
 
-// One property of a class of objects, for the table of all of them in the order of their entries.
+// One property of a class of objects. A class has one table of rows, in the order of the entries of
+// its sets.
 struct PropertyRow {
   std::string_view name;
-  PropertyValue common;  // where an object says no other; it also tells the kind of the value
-  // Sets a value of that kind on an object of the class; null where this platform has no use for
-  // the property, whose value is then read and dropped.
+  PropertyValue default_value;  // its kind is the kind of the property
+  // Sets a value of that kind on an object of the class. Null for a property that has no effect
+  // here: its value is read and dropped.
   void (*set)(PropertyTarget&, const PropertyValue&) = nullptr;
 };
 using PropertyTable = std::span<const PropertyRow>;
 
-// The tables one behind the other, as one.
+// The rows of all parts, in their order, as one table.
 template <std::size_t... kSizes>
 constexpr auto Joined(const std::array<PropertyRow, kSizes>&... parts) {
   std::array<PropertyRow, (kSizes + ...)> rows{};
@@ -64,25 +66,26 @@ constexpr auto Joined(const std::array<PropertyRow, kSizes>&... parts) {
   return rows;
 }
 
-// A set with one entry for each row, in their order, each with its value from `own`, or with the
-// common one where `own` has none. PropertyError for a property of `own` that the table lacks.
-std::string EncodePropertySet(PropertyTable table, std::span<const Property> own);
+// A set with one entry for each row of the table, in their order: with the value from `overrides`
+// or, where `overrides` has none, the default. PropertyError for a property of `overrides` that the
+// table lacks.
+std::string EncodePropertySet(PropertyTable table, std::span<const Property> overrides);
 
-// Something that has properties.
+// An object with properties.
 class PropertyTarget {
  public:
   virtual ~PropertyTarget() = default;
   // The properties that objects of this class have.
   virtual PropertyTable Properties() const = 0;
-  // Sets each named property in turn. PropertyError for a name that the object does not know and
-  // for a set that ends in the middle of an entry; the entries before it have been set.
+  // Sets the properties of the set in its order. PropertyError for a name that the object's class
+  // lacks and for a set that ends inside an entry; the entries before have then been applied.
   void _SetProperties(std::string_view set);
 
  protected:
-  // What the object is called in an error.
+  // The object's name in an error.
   virtual std::string Described() const = 0;
-  // Whether a set is being applied, and what is to be done once when it has been.
   bool ApplyingSet() const { return applying_set_; }
+  // Called once after a whole set has been applied.
   virtual void SetApplied() {}
 
  private:
@@ -100,7 +103,7 @@ struct PropertyMethod<Method> {
   }
 };
 
-// How a row sets its property: through a member function of the class.
+// The setter of a row that calls this member function of the class.
 template <auto Method>
 inline constexpr auto kThrough = &PropertyMethod<Method>::Set;
 

@@ -14,7 +14,7 @@ inline QString ToQt(std::string_view text) {
 }
 inline std::string FromQt(const QString& text) { return text.toStdString(); }
 
-// Qt counts UTF-16 units, the program characters: a character above U+FFFF has two units.
+// Qt counts UTF-16 units, the program characters; a character above U+FFFF has two units.
 inline int UnitsOf(const QString& text, std::int64_t characters) {
   int units = 0;
   for (; characters > 0 && units < text.size(); --characters) {

@@ -2,8 +2,8 @@
 
 namespace fundlet {
 
-// A screen of the desktop, by its number; 0 is the main one. The figures are those of the part that
-// no system bar takes, in pixels.
+// The usable area of a screen, without system bars, in pixels. Screen 0 is the primary one; all is
+// 0 for a number that no screen has.
 class Screen {
  public:
   explicit Screen(int number);
