@@ -42,4 +42,15 @@ remarks=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -T
 [ -z "$remarks" ] || fail "manual page: $remarks"
 
 open_screen 1024x640
+# expect_no_window CAUSE COMMAND...: it ends with status 1, and one line that names the cause.
+expect_no_window() {
+  local status=0 cause=$1
+  shift
+  "$@" "$folder/prefix/bin/fundlet" >"$folder/output" 2>&1 || status=$?
+  [ "$status" -eq 1 ] && [ "$(wc -l <"$folder/output")" -eq 1 ] && grep -q "$cause" "$folder/output" ||
+    fail "without a window, status $status: $(cat "$folder/output")"
+}
+expect_no_window 'neither DISPLAY nor WAYLAND_DISPLAY' env -u DISPLAY
+expect_no_window 'connect to display :none' env DISPLAY=:none
+expect_no_window 'plugin "none"' env QT_QPA_PLATFORM=none
 start_and_quit "$entry" "$folder/prefix/bin/$(desktop_entry_value "$entry" Exec)"

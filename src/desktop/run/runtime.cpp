@@ -1,5 +1,7 @@
 #include "desktop/run/runtime.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <future>
 #include <map>
 #include <utility>
@@ -19,6 +21,49 @@ namespace {
 
 struct ImplicitInstances {
   std::map<std::string, std::unique_ptr<Window>> by_class;
+};
+
+// Holds Qt's messages back while the QApplication is made. If Qt gives up, because no platform
+// plug-in can open a window, the program ends with status 1 and one line that names the cause; Qt
+// would print them all, advise to reinstall the program, and call abort().
+class PlatformMessages {
+ public:
+  PlatformMessages() {
+    held_.clear();
+    cause_.clear();
+    previous_ = qInstallMessageHandler(&Handle);
+  }
+  PlatformMessages(const PlatformMessages&) = delete;
+  PlatformMessages& operator=(const PlatformMessages&) = delete;
+  ~PlatformMessages() {
+    qInstallMessageHandler(previous_);
+    for (const QString& text : held_) qWarning("%s", qPrintable(text));
+  }
+
+ private:
+  // A plug-in says why it fails, and then Qt that the plug-in could not be loaded.
+  static void Handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) GiveUp();
+    if (cause_.isEmpty() && qstrcmp(context.category, "qt.qpa.plugin") == 0) {
+      cause_ = held_.isEmpty() ? text : held_.last();
+    }
+    held_.append(text);
+  }
+
+  [[noreturn]] static void GiveUp() {
+#ifdef Q_OS_LINUX
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+      cause_ = "there is no desktop, because neither DISPLAY nor WAYLAND_DISPLAY is set";
+    }
+#endif
+    std::fprintf(stderr, "%s: The window cannot be opened: %s\n", App().Name.c_str(),
+                 qPrintable(cause_));
+    std::_Exit(1);
+  }
+
+  inline static QStringList held_;
+  inline static QString cause_;
+  inline static QtMessageHandler previous_ = nullptr;
 };
 
 }  // namespace
@@ -58,7 +103,10 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   // The style whose controls fit the heights of the layout.
   QApplication::setStyle(new ProgramStyle);
 #endif
-  parts_->application = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
+  {
+    const PlatformMessages messages;
+    parts_->application = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
+  }
   // Qt's search for fonts takes a good part of the opening, and runs beside the connection
   // to the desktop from here on. Nothing of the program's own leaves this thread.
   parts_->font_search = std::async([] { QFontDatabase::families(); });
