@@ -23,6 +23,37 @@ constexpr int kResizedButtonTop = 395;
 
 }  // namespace
 
+namespace help_layout {
+
+std::span<const Property> WindowProperties() {
+  static constexpr Property kOwn[] = {
+      {"Title", "Fundlet Help"}, {"Width", kWidth},
+      {"Height", kHeight},       {"MinWidth", 400},
+      {"MinHeight", 300},        {"Resizeable", true},
+      {"Placement", 2},          {"BackColor", main_layout::kPaleGreen},
+  };
+  return kOwn;
+}
+
+std::span<const Property> TextFieldProperties() {
+  static const std::string page = HelpText();
+  static const Property own[] = {
+      {"Name", "TextField"},   {"Left", 20},    {"Top", 20},    {"Width", kTextWidth},
+      {"Height", kTextHeight}, {"TabIndex", 0}, {"Text", page}, {"TextFont", "Geneva"},
+  };
+  return own;
+}
+
+std::span<const Property> DoneButtonProperties() {
+  static constexpr Property kOwn[] = {
+      {"Name", "DoneButton"}, {"Left", 405},   {"Top", 392},         {"Width", 69},
+      {"Height", 18},         {"TabIndex", 1}, {"Caption", "Close"}, {"Default", true},
+  };
+  return kOwn;
+}
+
+}  // namespace help_layout
+
 aHelpWindow::aHelpWindow() {
   Layout();
   CreateControls();
@@ -38,33 +69,20 @@ void aHelpWindow::ShowHelp() {
 }
 
 void aHelpWindow::Layout() {
-  static constexpr Property kOwn[] = {
-      {"Title", "Fundlet Help"}, {"Width", kWidth},
-      {"Height", kHeight},       {"MinWidth", 400},
-      {"MinHeight", 300},        {"Resizeable", true},
-      {"Placement", 2},          {"BackColor", main_layout::kPaleGreen},
-  };
-  _SetProperties(EncodePropertySet(Properties(), kOwn));
+  _SetProperties(EncodePropertySet(Properties(), help_layout::WindowProperties()));
 }
 
 void aHelpWindow::CreateControls() { _CreateControls0(); }
 
 void aHelpWindow::_CreateControls0() {
-  const std::string text = HelpText();
-  const Property text_field[] = {
-      {"Name", "TextField"},   {"Left", 20},    {"Top", 20},    {"Width", kTextWidth},
-      {"Height", kTextHeight}, {"TabIndex", 0}, {"Text", text}, {"TextFont", "Geneva"},
-  };
   _AddControl("TextField", std::make_unique<fundlet::TextArea>(*this));
-  TextField()._SetProperties(EncodePropertySet(TextField().Properties(), text_field));
+  TextField()._SetProperties(
+      EncodePropertySet(TextField().Properties(), help_layout::TextFieldProperties()));
   TextField().GotFocus = [this](fundlet::TextArea& area) { TextField_GotFocus(area); };
 
-  static constexpr Property kDoneButton[] = {
-      {"Name", "DoneButton"}, {"Left", 405},   {"Top", 392},         {"Width", 69},
-      {"Height", 18},         {"TabIndex", 1}, {"Caption", "Close"}, {"Default", true},
-  };
   _AddControl("DoneButton", std::make_unique<PushButton>(*this));
-  DoneButton()._SetProperties(EncodePropertySet(DoneButton().Properties(), kDoneButton));
+  DoneButton()._SetProperties(
+      EncodePropertySet(DoneButton().Properties(), help_layout::DoneButtonProperties()));
   DoneButton().Action = [this](PushButton& button) { DoneButton_Action(button); };
 }
 

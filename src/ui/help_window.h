@@ -1,10 +1,21 @@
 #pragma once
 
+#include <span>
+
 #include "desktop/controls/push_button.h"
 #include "desktop/controls/text_area.h"
 #include "desktop/windows/window.h"
 
 namespace fundlet {
+
+// The properties in which the window and its controls differ from the defaults of their classes.
+namespace help_layout {
+
+std::span<const Property> WindowProperties();
+std::span<const Property> TextFieldProperties();
+std::span<const Property> DoneButtonProperties();
+
+}  // namespace help_layout
 
 // The window with the help page: its text is read-only, and its two controls follow its size. At
 // most one is open; a closed one is never shown again.

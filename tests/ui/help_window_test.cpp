@@ -62,8 +62,6 @@ TEST_F(Help, StandsAsMadeUntilItIsResizedAndThenFollowsItsSize) {
 
 TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
   const std::string page = HelpText();
-  EXPECT_EQ(page.size(), 4908U);
-  EXPECT_EQ(std::count(page.begin(), page.end(), '\r'), 45);
   user::Key(Qt::Key_F1);
   user::Type("x");
   user::Key(Qt::Key_Delete);
