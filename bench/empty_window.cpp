@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QWidget>
 
-// What Qt itself costs: a window of the same size with nothing in it.
+// The least that any window costs: an empty one of the program's size.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QWidget window;

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""How long a program takes to open its window, and how much memory it holds, beside another one.
+"""Measures how programs open their windows: the time, the memory, and what they read of files.
 
 opening.py RUNS NAME PROGRAM NAME PROGRAM...   under X, with nothing else on the screen
 
-The programs are started in turn, so that whatever else the machine does falls on all of them. The
-first is what the others are measured against. A window counts as mapped when the server says so,
-and as on the screen when it is painted too: a pixel near its bottom has taken its last colour.
+The programs are started in turn, so that other work of the machine slows all of them alike. The
+ratios are to the first program. A window is mapped when the server says so, and on the screen when a
+pixel near its bottom has taken its last colour. Reads are calls of read(), which leave out the
+libraries, since those are mapped.
 """
 
 import ctypes
@@ -19,8 +20,9 @@ MAP_NOTIFY = 19
 SUBSTRUCTURE_NOTIFY_MASK = 1 << 19
 Z_PIXMAP = 2
 ALL_PLANES = ctypes.c_ulong(-1)
-LEAST_WIDTH = 700  # of the windows meant, in pixels; all others are smaller
+LEAST_WIDTH = 700  # pixels; narrower windows are not those that are measured
 SETTLING = 0.6  # seconds from the mapping until all is painted and the memory can be measured
+COLUMNS = "mapped ms", "on screen ms", "resident MiB", "reads", "KiB read"
 
 
 class MapEvent(ctypes.Structure):
@@ -36,7 +38,7 @@ class Screen:
         self.x.XDefaultRootWindow.restype = ctypes.c_ulong
         self.x.XGetImage.restype = ctypes.c_void_p
         self.x.XGetPixel.restype = ctypes.c_ulong
-        # A window may have gone by the time it is asked about.
+        # XGetGeometry fails for a window that has closed meanwhile.
         self.ignore_errors = ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)(
             lambda *_: 0)
         self.x.XSetErrorHandler(self.ignore_errors)
@@ -48,7 +50,7 @@ class Screen:
         self.x.XSync(self.display, 0)
 
     def next_mapped(self, deadline):
-        """The next window that is mapped, as left, top, width and height."""
+        """Waits for the next window to be mapped: its left, top, width and height in pixels."""
         event = MapEvent()
         while True:
             while self.x.XPending(self.display):
@@ -58,7 +60,7 @@ class Screen:
             left = deadline - time.perf_counter()
             if left <= 0 or not select.select([self.x.XConnectionNumber(self.display)], [], [],
                                               left)[0]:
-                sys.exit("No window came up.")
+                sys.exit("No window was mapped.")
 
     def geometry(self, window):
         root, numbers = ctypes.c_ulong(), [ctypes.c_int() for _ in range(6)]
@@ -74,7 +76,7 @@ class Screen:
         return value
 
     def last_change(self, left, top, deadline):
-        """When the pixel took the colour that it has at the deadline."""
+        """The time at which the pixel took the colour that it has at the deadline."""
         colour, changed = None, None
         while time.perf_counter() < deadline:
             now = self.pixel(left, top)
@@ -87,9 +89,10 @@ class Screen:
         self.x.XSync(self.display, 1)
 
 
-def resident(process):
-    with open(f"/proc/{process.pid}/status") as status:
-        return next(int(line.split()[1]) / 1024 for line in status if line.startswith("VmRSS"))
+def of_process(process, file, name):
+    """A number from a file in the process's folder of /proc."""
+    with open(f"/proc/{process.pid}/{file}") as lines:
+        return next(int(line.split()[1]) for line in lines if line.startswith(name + ":"))
 
 
 def open_once(screen, program):
@@ -103,7 +106,9 @@ def open_once(screen, program):
                 break
         mapped = time.perf_counter()
         painted = screen.last_change(left + width // 2, top + height - 12, mapped + SETTLING)
-        return (mapped - start) * 1000, (painted - start) * 1000, resident(process)
+        return ((mapped - start) * 1000, (painted - start) * 1000,
+                of_process(process, "status", "VmRSS") / 1024,
+                of_process(process, "io", "syscr"), of_process(process, "io", "rchar") / 1024)
     finally:
         process.terminate()
         process.wait()
@@ -114,19 +119,19 @@ def main():
     runs, names, programs = int(sys.argv[1]), sys.argv[2::2], sys.argv[3::2]
     screen = Screen()
     for program in programs:
-        open_once(screen, program)  # brings its files into memory
+        open_once(screen, program)  # so that its files are in the page cache
     found = {name: [] for name in names}
     for _ in range(runs):
         for name, program in zip(names, programs):
             found[name].append(open_once(screen, program))
-    print(f"Opening of the window, {runs} runs in turn; the ratios are to the first.")
-    print(f"{'':24}{'mapped ms':>12}{'on screen ms':>20}{'resident MiB':>20}")
+    print(f"Opening of the window, {runs} runs in turn; the ratios are to {names[0]}.")
+    print(f"{'':26}" + "".join(f"{column:>12}{'':8}" for column in COLUMNS).rstrip())
     for title, choose in (("median", statistics.median), ("least", min)):
         chosen = {name: [choose(column) for column in zip(*rows)] for name, rows in found.items()}
         for name, row in chosen.items():
             cells = [f"{value:12.1f} {value / base:6.2f}x"
                      for value, base in zip(row, chosen[names[0]])]
-            print(f"{name + ', ' + title:24}" + "".join(cells))
+            print(f"{name + ', ' + title:26}" + "".join(cells))
 
 
 main()

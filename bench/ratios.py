@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints what a solve costs beside its bare arithmetic in the same run: ratios.py JSON..."""
+"""Prints the times of solves and their ratios to the bare arithmetic: ratios.py JSON..."""
 
 import json
 import statistics
@@ -7,7 +7,7 @@ import sys
 
 
 def solves(path):
-    """The repetitions of each solve, by plan and by kind."""
+    """The repetitions of each solve: by plan, then by kind."""
     found = {}
     for run in json.load(open(path))["benchmarks"]:
         if run["run_type"] != "iteration":
@@ -35,7 +35,7 @@ def rows(path):
                          f"  {kind:7}{time:11.4f}{month:10.2f}{time / bare:8.3f}")
 
 
-print("Solves, against their bare arithmetic in the same run: medians, in milliseconds of the processor.")
+print("Solves and their bare arithmetic: medians of the processor's time, in milliseconds.")
 print(f"{'plan':20}{'levels':>8}{'bare':>11}  {'':7}{'measured':>11}{'ns/month':>10}{'ratio':>8}")
 for json_path in sys.argv[1:]:
     for _, row in sorted(rows(json_path)):
@@ -43,5 +43,5 @@ for json_path in sys.argv[1:]:
 for json_path in sys.argv[1:]:
     for answer in solves(json_path).get("answer", {}).values():
         times = [run["real_time"] for run in answer]
-        print(f"Escape in the middle of a solve: {statistics.median(times):.1f} ms to the answer, "
-              f"{max(times):.1f} ms at the most, of {len(times)}.")
+        print(f"From Escape during a solve to the answer: {statistics.median(times):.1f} ms, "
+              f"at most {max(times):.1f} ms in {len(times)} runs.")
