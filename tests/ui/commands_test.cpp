@@ -1,3 +1,5 @@
+#include <map>
+
 #include <QFileDialog>
 
 #include "desktop/dialogs/objective_c.h"
@@ -41,6 +43,17 @@ TEST_F(Commands, ThatHaveAButtonWorkFromItTheMenuAndAKey) {
     EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 10 + 27);
     EXPECT_EQ(FocusName(), "StartYearField");
   }
+}
+
+// Qt runs neither of two commands with one shortcut.
+TEST_F(Commands, HaveAShortcutEach) {
+  std::map<std::string, std::string> owners = {{"Cmd+E", "the key for help"}};
+  Main().MenuBar().ForEach([&](const MenuItem& item) {
+    if (item.KeyboardShortcut.empty()) return;
+    const auto [owner, is_first] = owners.try_emplace(item.KeyboardShortcut, item.Name);
+    EXPECT_TRUE(is_first) << owner->first << " is that of " << owner->second << " and "
+                          << item.Name;
+  });
 }
 
 TEST_F(Commands, TheSaveDialogProposesANameWhereTheLastScheduleWentAndReplacesNothingUnasked) {

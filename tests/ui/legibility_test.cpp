@@ -86,6 +86,8 @@ TEST_F(Legibility, HasRoomForEveryTextInAnySystemFontAndScale) {
     Main().AnnualDrawField().SetText("Initial Year Draw:  $9,999,999,999");
     ForEachControl([&](const auto& row, QWidget& widget) {
       const int frame = qobject_cast<QLabel*>(&widget) != nullptr ? 0 : 3;
+      const int stretch = widget.font().stretch();  // percent; 0 for a text that was not narrowed
+      EXPECT_TRUE(stretch == 0 || stretch >= 80) << family << ", " << row.name << ": " << stretch;
       if (frame != 0) widget.setProperty("text", QString::fromUtf8(row.text.data()));
       for (const double scale : kScales) {
         const QSize text = TextSize(widget, frame, scale);
