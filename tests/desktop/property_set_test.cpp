@@ -1,13 +1,10 @@
 #include "desktop/base/property_set.h"
 
-#include <cstdlib>
-#include <optional>
-
 #include <gtest/gtest.h>
 
 #include "desktop/controls/label.h"
 #include "desktop/controls/text_field.h"
-#include "desktop/run/runtime.h"
+#include "tests/desktop/bare_window.h"
 #include "tests/services/scratch_folder.h"
 
 namespace fundlet {
@@ -29,21 +26,16 @@ TEST(PropertySet, EncodesEachKindOfValue) {
   EXPECT_EQ(Encoded({"BackColor", Colour{0xCC, 0xFF, 0xCE}}), "BackColor \xCC\xFF\xCE\0"s);
 }
 
-// A window with a label and a field, in a program that has nothing else.
-class Registry : public ::testing::Test {
+// A window with a label and a field.
+class Registry : public BareWindow {
  protected:
   void SetUp() override {
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    runtime_.Start([this] { RegisterApplication(application_); }, [this] { window_.emplace(); });
-    window_->_AddControl("Sign", std::make_unique<Label>(*window_));
-    window_->_AddControl("Entry", std::make_unique<TextField>(*window_));
+    BareWindow::SetUp();
+    Add<Label>("Sign");
+    Add<TextField>("Entry");
   }
 
   Label& Sign() { return window_->ControlOf<Label>("Sign"); }
-
-  Application application_;
-  Runtime runtime_{"desktop_test"};
-  std::optional<Window> window_;
 };
 using AppliedSet = Registry;
 
