@@ -1,7 +1,6 @@
 #include "plan/entry_fields.h"
 
 #include <array>
-#include <regex>
 
 #include "services/format.h"
 #include "services/numbers.h"
@@ -44,30 +43,6 @@ std::string TextOf(const Plan& plan, FocusCode field, std::string_view rate_mask
 }
 
 }  // namespace
-
-std::optional<std::string> PastedEntry(FocusCode field, const std::string& text,
-                                       std::size_t limit) {
-  // The sign, the digits, the exponent, the percent sign.
-  static const std::regex number(
-      "[ \t\r\n]*([-+]?)(?:(?:[$]|£|€|¥) *)?"
-      "((?:[0-9]{1,3}(?: [0-9]{3})+|[0-9]{1,3}(?:,[0-9]{3})+|[0-9]+)[.]?[0-9]*|[.][0-9]+)"
-      "((?:[eE][-+]?[0-9]+)?) *(%?)(?:[$]|£|€|¥)?[ \t\r\n]*");
-  constexpr std::size_t kLongest = 100;  // bytes; no text that is longer fits
-  if (text.size() > kLongest) return std::nullopt;
-  std::string plain = text;
-  for (const char* blank : {"\u00A0", "\u2007", "\u2009", "\u202F"}) {
-    plain = ReplaceAll(plain, blank, " ");
-  }
-  std::smatch found;
-  if (!std::regex_match(plain, found, number)) return std::nullopt;
-  const Parameter& parameter = ParameterOf(field);
-  const bool has_commas = found[2].str().find(',') != std::string::npos;
-  if (has_commas && parameter.money == nullptr) return std::nullopt;
-  if (found.length(4) > 0 && parameter.rate == nullptr) return std::nullopt;
-  std::string entry = found[1].str() + ReplaceAll(found[2].str(), " ", "") + found[3].str();
-  if (entry.size() > limit) entry = ReplaceAll(entry, ",", "");
-  return entry.size() <= limit ? std::optional(entry) : std::nullopt;
-}
 
 std::string ShownText(const Plan& plan, FocusCode field) {
   return TextOf(plan, field, mask::kPercent);

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -46,13 +44,6 @@ double CurrencyReading(std::string_view text);       // dollars; commas do not c
 
 // Reads the field's text into the parameter behind it. No range is tested.
 void ReadField(Plan& plan, FocusCode field, std::string_view text);
-
-// What the field shall hold when a text from elsewhere has been put into it, of which `text` is the
-// outcome: the one number that stands there, without the blanks and signs of currency round it, the
-// blanks between groups of three digits, and, in the field of a rate, a percent sign; commas
-// between such groups stay where money has room for them within `limit` characters. Nothing where
-// the field would read another number than the text says, or where it does not fit.
-std::optional<std::string> PastedEntry(FocusCode field, const std::string& text, std::size_t limit);
 
 // The parameter as its field shows it: a rate with at most three decimals.
 std::string ShownText(const Plan& plan, FocusCode field);

@@ -1,7 +1,7 @@
 #include <functional>
 #include <memory>
 
-#include "plan/entry_fields.h"
+#include "plan/pasted_entry.h"
 #include "ui/default_menu.h"
 #include "ui/main_layout.h"
 #include "ui/main_window.h"

@@ -1,10 +1,12 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <string_view>
 
 #include "plan/entry_fields.h"
 #include "plan/parameters_file.h"
+#include "plan/pasted_entry.h"
 #include "plan/validation.h"
 #include "services/format.h"
 #include "services/text.h"
@@ -27,6 +29,30 @@ void TryText(std::string_view text) {
     const std::string shown = ShownText(plan, field);
     ReadField(plan, field, shown);
     Require(ParameterOf(field).rate != nullptr || ShownText(plan, field) == shown);
+  }
+}
+
+// A field reads a pasted text that it accepts as the number that remains of the text without its
+// separators and units.
+void TryPaste(std::string_view choices) {
+  constexpr std::string_view kParts[] = {"0", "1", "9", "000", ",234", " 567", "'89", ",",
+                                         ".", " ", "-", "+",   "e5",   "$",    "%",   "\u2212"};
+  std::string text;
+  for (const char choice : choices.substr(0, 12)) {
+    text += kParts[static_cast<unsigned char>(choice) % std::size(kParts)];
+  }
+  std::string number = ReplaceAll(text, "\u2212", "-");
+  std::erase_if(number, [](char c) { return std::strchr(" ,'$%", c) != nullptr; });
+  for (const FocusCode field : kFocusCodes) {
+    const std::optional<std::string> entry = PastedEntry(field, text, 11);
+    if (!entry) continue;
+    Plan plan;
+    ReadField(plan, field, *entry);
+    const Parameter& parameter = ParameterOf(field);
+    const double value = parameter.whole != nullptr ? static_cast<double>(plan.*parameter.whole)
+                                                    : plan.*parameter.Real();
+    Require(entry->size() <= 11);
+    Require(value == (parameter.rate != nullptr ? PercentReading(number) : Val(number)));
   }
 }
 
@@ -65,6 +91,7 @@ void TryFile(const std::string& file) {
 
 extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t count) {
   fundlet::TryText({bytes, count});
+  fundlet::TryPaste({bytes, count});
   fundlet::TryFile({bytes, count});
   double number = 0;
   if (count >= sizeof number) std::memcpy(&number, bytes, sizeof number);

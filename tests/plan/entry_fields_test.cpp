@@ -20,36 +20,6 @@ TEST(Reading, OfAWholeNumberTruncatesAndOnlyThatOfMoneyLeavesCommasOut) {
   EXPECT_EQ(PercentReading("1,5"), 0.01);
 }
 
-TEST(PastedEntry, IsTheNumberThatWasCopiedOrNothing) {
-  constexpr const char* kRefused = "refused";
-  const std::tuple<FocusCode, std::size_t, const char*, const char*> cases[] = {
-      {SocialSecurity, 6, "  25,000\r\n", "25,000"},
-      {SocialSecurity, 6, "250,000", "250000"},
-      {SocialSecurity, 6, "1,234,567", kRefused},
-      {StartFundlet, 11, "1,000,000,000", "1000000000"},
-      {StartFundlet, 11, "\u00A0$ 1\u202F250\u00A0000.50 ", "1250000.50"},
-      {StartFundlet, 11, "-€5", "-5"},
-      {StartFundlet, 11, "2.5e5 €", "2.5e5"},
-      {StartFundlet, 11, "12,50", kRefused},
-      {StartFundlet, 11, "1.234.567", kRefused},
-      {StartFundlet, 11, "1,000\n2,000", kRefused},
-      {StartFundlet, 11, "100 20", kRefused},
-      {StartFundlet, 11, "5%", kRefused},
-      {StartFundlet, 11, "", kRefused},
-      {StartYear, 4, "1,23", kRefused},
-      {StartYear, 4, "2 030", "2030"},
-      {StartYear, 4, "year", kRefused},
-      {COLA, 5, "3.5 %", "3.5"},
-      {COLA, 5, "3.465.0", kRefused},
-      {COLA, 5, "1,5", kRefused},
-      {COLA, 5, ".", kRefused},
-  };
-  for (const auto& [field, limit, pasted, entry] : cases) {
-    EXPECT_EQ(PastedEntry(field, pasted, limit).value_or(kRefused), entry) << pasted;
-  }
-  EXPECT_EQ(PastedEntry(StartFundlet, std::string(1'000'000, '9'), 11), std::nullopt);
-}
-
 TEST(LeaveField, ShowsWhatWasReadAndTestsNoRange) {
   const std::tuple<FocusCode, const char*, const char*> cases[] = {
       {StartYear, "19.9", "19"},

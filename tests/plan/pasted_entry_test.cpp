@@ -1,0 +1,96 @@
+#include "plan/pasted_entry.h"
+
+#include <tuple>
+
+#include <gtest/gtest.h>
+
+namespace fundlet {
+namespace {
+
+using enum FocusCode;
+
+constexpr const char* kRefused = "refused";
+
+TEST(PastedEntry, IsTheNumberOfTheTextAsTheFieldReadsIt) {
+  const std::tuple<FocusCode, std::size_t, const char*, const char*> cases[] = {
+      {SocialSecurity, 6, "  25,000\r\n", "25,000"},
+      {SocialSecurity, 6, "250,000", "250000"},
+      {SocialSecurity, 6, "$20,000.00", "20,000"},
+      {StartFundlet, 11, "1,000,000,000", "1000000000"},
+      {StartFundlet, 11, "\u00A0$ 1\u202F250\u2007000.50 ", "1250000.50"},
+      {StartFundlet, 11, "1\u2019234\u2019567", "1234567"},
+      {StartFundlet, 11, "-€5", "-5"},
+      {StartFundlet, 11, "£\u22125", "-5"},
+      {StartFundlet, 11, "\u221212 ¥", "-12"},
+      {StartFundlet, 11, "2.5e+5 €", "2.5e+5"},
+      {StartYear, 4, "2\u2009030", "2030"},
+      {StartYear, 4, "2030.0", "2030"},
+      {StartAge, 2, "+65.", "65"},
+      {COLA, 5, "3.50 %", "3.50"},
+      {COLA, 5, ".5", ".5"},
+  };
+  for (const auto& [field, limit, pasted, entry] : cases) {
+    EXPECT_EQ(PastedEntry(field, pasted, limit).value_or(kRefused), entry) << pasted;
+  }
+}
+
+TEST(PastedEntry, IsRefusedWhereTheFieldWouldReadAnotherNumberThanTheTextSays) {
+  const std::pair<FocusCode, std::vector<std::string>> refused[] = {
+      {StartFundlet,
+       {"",
+        ".",
+        "$",
+        "-",
+        "$.",
+        "year",
+        "1,2345",
+        "12,50",
+        "100,0000",
+        "1234,567",
+        "1,234,56",
+        ",123",
+        "12 3456",
+        "100 20",
+        "1,234 567",
+        "1'234,567",
+        "1 234,567",
+        "0,123",
+        "1.234.567",
+        "1.000,50",
+        "1.234 567",
+        "1,000\n200",
+        "1\t000",
+        "1  000",
+        "1 .5",
+        "1. 5",
+        "1,234,",
+        "5e",
+        "5 e3",
+        "1e3.5",
+        "1e3,000",
+        "--5",
+        "-$-5",
+        "- 5",
+        "5-",
+        "(5)",
+        "$5 €",
+        "$$5",
+        "5%",
+        "5\u00A05",
+        "１２",
+        "5x",
+        "1\u2019234'567.123.4",
+        "123456789012",
+        std::string(1'000'000, '9')}},
+      {StartYear, {"1,23", "2,030", "19.9", "2.0e3", "2e3", ".0", "$2030", "20%", "20300"}},
+      {COLA, {"1,5", "3.465.0", "1,500", "3%%", "€3", "3 $", "3%$", "% 3"}},
+  };
+  for (const auto& [field, texts] : refused) {
+    for (const std::string& text : texts) {
+      EXPECT_EQ(PastedEntry(field, text, field == StartYear ? 4 : 11), std::nullopt) << text;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace fundlet
