@@ -12,7 +12,9 @@ BinaryStream BinaryStream::Open(const FolderItem& item) {
   return {item, FileHandle::Use::Existing};
 }
 
-BinaryStream BinaryStream::Create(const FolderItem& item) { return {item, FileHandle::Use::New}; }
+BinaryStream BinaryStream::Create(const FolderItem& item) {
+  return {item, FileHandle::Use::NewPrivate};
+}
 
 void BinaryStream::SetPosition(std::int64_t byte) { file_.SetPosition(static_cast<long>(byte)); }
 

@@ -7,19 +7,20 @@
 
 namespace fundlet {
 
-// Whole numbers and doubles in a file, the most significant byte first, each written or read at the
-// position, which then moves on behind it. Every operation that fails raises an IOException; a read
-// past the end of the file is such a failure. A change between reading and writing takes a
-// SetPosition in between. After Close, the stream is not to be used.
+// Whole numbers and doubles in a file, the most significant byte first. Each is written or read at
+// the position, which then moves behind it. Every operation that fails throws an IOException; a
+// read past the end of the file fails. SetPosition must be called between reading and writing.
+// After Close, the stream must not be used.
 class BinaryStream {
  public:
-  // Opens an existing file at position 0, for reading and writing: a file that may only be read is
-  // refused.
+  // Opens an existing file at position 0, for reading and writing; fails for a file that the user
+  // may only read.
   static BinaryStream Open(const FolderItem& item);
-  // Makes an empty file, in place of one that is there. It can only be written.
+  // Creates an empty file, to be written only. It replaces the contents of a file that is there,
+  // which keeps its permissions; a new file can be read by its owner alone.
   static BinaryStream Create(const FolderItem& item);
 
-  void SetPosition(std::int64_t byte);  // from the start of the file
+  void SetPosition(std::int64_t byte);  // from the start of the file, at least 0
   void WriteInt16(std::int16_t value);
   void WriteInt8(std::int8_t value);
   void WriteDouble(double value);

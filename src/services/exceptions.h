@@ -6,8 +6,8 @@
 
 namespace fundlet {
 
-// The base of every failure that a service reports. Its message is a whole sentence in UTF-8, fit
-// to be shown to a person.
+// The base of every failure that a service reports. Its message is a whole sentence in UTF-8 that
+// can be shown to the user.
 class RuntimeException : public std::exception {
  public:
   explicit RuntimeException(std::string message) : message_(std::move(message)) {}
@@ -17,7 +17,8 @@ class RuntimeException : public std::exception {
   std::string message_;
 };
 
-// An object that a service needs was not given.
+// A required object is missing: it was not given, does not exist, or has another class than the one
+// asked for.
 class NilObjectException : public RuntimeException {
  public:
   using RuntimeException::RuntimeException;
@@ -29,10 +30,14 @@ enum class FileAction { Open, Create, Read, Write, Close };
 // A file operation that failed. The message names the file, what could not be done, and why.
 class IOException : public RuntimeException {
  public:
-  // Numbers of the failures that no system call reports; every other number is an errno value.
+  // Numbers of the failures that no system call reports. 0 means that no reason is known; every
+  // other number is an errno value.
   static constexpr int kEndOfFile = -1;
   static constexpr int kNotAFile = -2;
   static constexpr int kNoFolder = -3;
+  static constexpr int kNoFile = -4;
+  static constexpr int kNoFileName = -5;
+  static constexpr int kDeadLink = -6;
 
   IOException(FileAction action, const std::filesystem::path& file, int error_number);
   int ErrorNumber() const { return error_number_; }
@@ -41,7 +46,8 @@ class IOException : public RuntimeException {
   int error_number_;
 };
 
-// Why an operation failed, in words a person understands, without a full stop.
+// Why an operation failed, for an error number of IOException: a clause for the user, without a
+// full stop. A number that has no clause of its own is named.
 std::string ReasonText(int error_number);
 
 // The path as UTF-8 text, whatever the platform's own encoding of file names.

@@ -3,6 +3,11 @@
 #include <cerrno>
 #include <system_error>
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <sys/stat.h>
+#endif
+
 namespace fundlet {
 
 namespace fs = std::filesystem;
@@ -14,17 +19,30 @@ std::FILE* OpenFile(const fs::path& path, FileHandle::Use use) {
 #ifdef _WIN32
   return _wfopen(path.c_str(), existing ? L"r+b" : L"wb");
 #else
-  return std::fopen(path.c_str(), existing ? "r+b" : "wb");
+  if (use != FileHandle::Use::NewPrivate) return std::fopen(path.c_str(), existing ? "r+b" : "wb");
+  // fopen would create the file with rights for others, if only for a moment.
+  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, S_IRUSR | S_IWUSR);
+  return file < 0 ? nullptr : fdopen(file, "wb");
 #endif
 }
 
-// The number of the failure where the path leads to something other than a file; otherwise 0.
+// The number of the failure if the path names something other than a file; otherwise 0.
 int FaultOfKind(const fs::path& path) {
   std::error_code ignored;
   const fs::file_status status = fs::status(path, ignored);
   if (fs::is_directory(status)) return EISDIR;
+  if (!path.has_filename()) return IOException::kNoFileName;
   const bool other = fs::exists(status) && !fs::is_regular_file(status);
   return other ? IOException::kNotAFile : 0;
+}
+
+// The number of the failure to open a file, given that of the system, which reports ENOENT whatever
+// is missing: the folder, the target of a link or the file.
+int FaultOfOpening(const fs::path& path, int error_number) {
+  std::error_code ignored;
+  if (error_number != ENOENT || !fs::exists(path.parent_path(), ignored)) return error_number;
+  const bool is_link = fs::is_symlink(fs::symlink_status(path, ignored));
+  return is_link ? IOException::kDeadLink : IOException::kNoFile;
 }
 
 }  // namespace
@@ -35,7 +53,7 @@ FileHandle::FileHandle(const FolderItem& item, Use use) : path_(item.Path()) {
   if (const int fault = FaultOfKind(path_); fault != 0) Fail(action, fault);
   errno = 0;
   file_.reset(OpenFile(path_, use));
-  if (!file_) Fail(action, errno);
+  if (!file_) Fail(action, FaultOfOpening(path_, errno));
   std::setvbuf(file_.get(), nullptr, _IONBF, 0);
 }
 

@@ -15,8 +15,10 @@ namespace fundlet {
 class FileHandle {
  public:
   // Existing: opened for reading and writing. New: an empty file, in place of one that is there,
-  // opened for writing only, so that a file that may not be read can be replaced too.
-  enum class Use { Existing, New };
+  // opened for writing only, so that a file that may not be read can be replaced too. NewPrivate:
+  // as New, and a file that did not exist can be read by its owner alone; on Windows, by those who
+  // can read its folder.
+  enum class Use { Existing, New, NewPrivate };
 
   // What is there and is not a file, such as a folder or a pipe, is refused.
   FileHandle(const FolderItem& item, Use use);

@@ -18,6 +18,7 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
   const ScratchFolder folder;
   folder.Write("short", "abc");
   fs::create_directory(folder.Path() / "folder");
+  fs::create_symlink("gone/x", folder.Path() / "link");
   ASSERT_EQ(mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
   const auto open = &BinaryStream::Open;
   const auto create = &BinaryStream::Create;
@@ -26,6 +27,10 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
   const std::tuple<Operation, FolderItem, std::string> failures[] = {
       {open, folder.Item("gone ½/x"), "opened: its folder is not there."},
       {create, folder.Item("gone/x"), "created: its folder is not there."},
+      {open, folder.Item("gone"), "opened: it is not there."},
+      {create, folder.Item("link"),
+       "created: it is a link, and what the link leads to is not there."},
+      {create, folder.Item("gone/"), "created: only a folder's name may end like this."},
       {open, folder.Item("folder"), "opened: there is a folder of that name."},
       {create, folder.Item("folder"), "created: there is a folder of that name."},
       {open, folder.Item("pipe"), "opened: there is something of that name that is not a file."},
@@ -43,6 +48,22 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
   EXPECT_THROW(TextOutputStream::Create(std::nullopt), NilObjectException);
   EXPECT_EQ(ReasonText(0), "the system does not say why");
   EXPECT_EQ(ReasonText(99999), "the system reports fault number 99999");
+}
+
+TEST(BinaryStream, CreatesAFileForItsOwnerAloneAndTextsForWhomTheUserAllows) {
+  const ScratchFolder folder;
+  const mode_t before = umask(0022);
+  BinaryStream::Create(folder.Item("plan")).Close();
+  TextOutputStream::Create(folder.Item("text")).Close();
+  umask(before);
+  const auto rights = [&](const char* name) {
+    return fs::status(folder.Path() / name).permissions();
+  };
+  EXPECT_EQ(rights("plan"), fs::perms{0600});
+  EXPECT_EQ(rights("text"), fs::perms{0644});
+  fs::permissions(folder.Path() / "plan", fs::perms{0664});
+  BinaryStream::Create(folder.Item("plan")).Close();
+  EXPECT_EQ(rights("plan"), fs::perms{0664}) << "as the user has set them";
 }
 
 TEST(BinaryStream, NamesTheActionOfAnyCallThatFails) {
