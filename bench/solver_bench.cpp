@@ -21,7 +21,7 @@ void Solver(benchmark::State& state, const Plan& measured) {
   bare.Run(measured);
   Plan plan = measured;
   for (auto _ : state) {
-    SizeArrays(plan);
+    PrepareArrays(plan);
     plan.OKtoPrint = true;
     CalculateDraw(plan, InitialGuess(plan));
   }

@@ -1,6 +1,5 @@
-// Prints every bit that some thousands of plans come to, a line for each plan, and writes their
-// records into the file that it is given, so that two platforms can be compared:
-// plan_bits RECORDS_FILE
+// Prints every bit of the results of 4,000 plans, a line for each, and writes their records into a
+// file, so that two platforms can be compared: plan_bits RECORDS_FILE
 
 #include <bit>
 #include <cinttypes>
@@ -13,7 +12,8 @@
 namespace fundlet {
 namespace {
 
-// Each library distributes random numbers in its own way; the raw ones are the same everywhere.
+// Random plans that are the same on every platform: the generator is, the standard distributions
+// are not.
 class Dice {
  public:
   double Upto(double most) { return static_cast<double>(random_() >> 11) * 0x1p-53 * most; }
@@ -51,13 +51,13 @@ void Compute(const FolderItem& records) {
   BinaryStream stream = BinaryStream::Create(records);
   Dice dice;
   for (int number = 1; number <= 4000; ++number) {
-    // Rates that can be solved, and then once through all that is accepted.
+    // In turn, a plan that can be solved, and one level of any valid plan.
     Plan plan = number % 2 == 0 ? dice.Throw(0.03, 0.05) : dice.Throw(0.9999, 0.9999);
     WriteParameters(stream, plan);
     if (number % 2 == 0) {
       Solve(plan);
     } else {
-      SizeArrays(plan);
+      PrepareArrays(plan);
       plan.AnnualDraw = dice.Upto(2e9);
       for (std::int64_t year = 1; year <= plan.YearsLeft; ++year) {
         CalculateBalance(plan, year, plan.AnnualDraw);

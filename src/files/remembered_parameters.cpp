@@ -7,7 +7,7 @@ namespace fundlet {
 
 void SaveParameters(Plan& plan, const EntryForm& form) {
   const FolderItem file = ParametersFile();
-  // Opened before any field is read, so that a file that refuses it leaves the plan alone.
+  // Opened before any field is read, so that a failure leaves the plan unchanged.
   BinaryStream stream = file.Exists() ? BinaryStream::Open(file) : BinaryStream::Create(file);
   ReadAllFields(plan, form);
   stream.SetPosition(0);
@@ -16,7 +16,7 @@ void SaveParameters(Plan& plan, const EntryForm& form) {
 }
 
 void RestoreParameters(Plan& plan, EntryForm& form) {
-  BinaryStream stream = OpenRememberedParameters(plan);
+  BinaryStream stream = OpenOrCreateParametersFile(plan);
   DisplayParameters(plan, form);
   form.SelectAll(FocusCode::StartYear);
   form.ShowResult(ResultText(0.0));

@@ -1,7 +1,6 @@
 #include "plan/draw_solver.h"
 
 #include <cfloat>
-#include <exception>
 
 #include "services/background.h"
 #include "services/numbers.h"
@@ -47,7 +46,7 @@ namespace {
 
 enum class Outcome { Solved, Failed, Cancelled };
 
-Outcome Climb(Plan& plan, double draw) {
+Outcome RunLevels(Plan& plan, double draw) {
   for (int level = 1; level <= kLevelLimit; ++level) {
     if (UserCancelled()) return Outcome::Cancelled;
     for (std::int64_t year = 1; year <= plan.YearsLeft; ++year) {
@@ -65,10 +64,10 @@ Outcome Climb(Plan& plan, double draw) {
   return Outcome::Failed;
 }
 
-Outcome ClimbGuarded(Plan& plan, double draw) {
+Outcome RunLevelsGuarded(Plan& plan, double draw) {
   try {
-    return Climb(plan, draw);
-  } catch (const std::exception&) {
+    return RunLevels(plan, draw);
+  } catch (...) {  // a yield may throw anything
     return Outcome::Failed;
   }
 }
@@ -76,12 +75,12 @@ Outcome ClimbGuarded(Plan& plan, double draw) {
 }  // namespace
 
 void CalculateDraw(Plan& plan, double draw) {
-  if (ClimbGuarded(plan, draw) != Outcome::Failed) return;
+  if (RunLevelsGuarded(plan, draw) != Outcome::Failed) return;
   plan.AnnualDraw = 0.0;
   plan.OKtoPrint = false;
 }
 
-void SizeArrays(Plan& plan) {
+void PrepareArrays(Plan& plan) {
   plan.Balance.resize(Index(plan.YearsLeft + 1));
   plan.Balance.at(0) = plan.StartFundlet;
   plan.Drawing.resize(Index(plan.YearsLeft + 1));

@@ -13,7 +13,7 @@ double PercentReading(std::string_view text) { return Val(text) / 100.0; }
 double CurrencyReading(std::string_view text) { return Val(ReplaceAll(text, ",", "")); }
 
 const Parameter& ParameterOf(FocusCode field) {
-  static constexpr std::array<Parameter, kFocusCodes.size()> kByCode = {{
+  static constexpr auto kByCode = std::to_array<Parameter>({
       {.whole = &Plan::StartYear},
       {.whole = &Plan::StartAge},
       {.whole = &Plan::YearsLeft},
@@ -22,7 +22,8 @@ const Parameter& ParameterOf(FocusCode field) {
       {.rate = &Plan::FundletAPR},
       {.money = &Plan::SocialSecurity, .money_mask = mask::kSocialSecurity},
       {.money = &Plan::EndFundlet, .money_mask = mask::kDollars},
-  }};
+  });
+  static_assert(kByCode.size() == kFieldCount);
   return kByCode.at(static_cast<std::size_t>(field) - 1);
 }
 
@@ -50,7 +51,7 @@ std::string ShownText(const Plan& plan, FocusCode field) {
 
 void LeaveField(Plan& plan, FocusCode field, EntryForm& form) {
   ReadField(plan, field, form.Text(field));
-  form.SetText(field, TextOf(plan, field, mask::kPercentLeft));
+  form.SetText(field, TextOf(plan, field, mask::kPercentAfterEditing));
 }
 
 void EnterField(Plan& plan, FocusCode field, EntryForm& form) {

@@ -8,7 +8,7 @@ namespace fundlet {
 
 namespace {
 
-// One row for ten years of age.
+// How many of 100,000 people born are alive at each age; ten ages a row.
 constexpr std::array<std::int64_t, 100> kLifeTable = {
     100000, 99239, 99187, 99150, 99122, 99100, 99081, 99063, 99047, 99032,  //
     99020,  99009, 98996, 98979, 98950, 98906, 98845, 98767, 98673, 98567,  //

@@ -5,13 +5,12 @@
 namespace fundlet {
 
 // Fills Surviving with the life table: of 100,000 people born, how many are alive at each age from
-// 0 to 99. The one element that exists from the start takes age 0.
+// 0 to 99. Replaces what Surviving held.
 void FillSurviving(Plan& plan);
 
-// Sets YearsLeft to the number of years until fewer than the given fraction of the people of
-// StartAge are still alive, or to what is left to age 99 where the table ends before that. A
-// StartAge above 99 so gives a negative number. A negative StartAge is no age of the table, and
-// leaves YearsLeft as it was.
+// Sets YearsLeft to the years after which fewer than `fraction` (0 to 1) of the people of StartAge
+// are alive. If the table ends first, YearsLeft becomes 99 - StartAge, which is negative above 99.
+// A negative StartAge, which is no age of the table, leaves YearsLeft unchanged.
 void CalculateSurvival(Plan& plan, double fraction);
 
 }  // namespace fundlet

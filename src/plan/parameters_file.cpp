@@ -45,7 +45,7 @@ void ReadParameters(BinaryStream& stream, Plan& plan) {
   }
 }
 
-BinaryStream OpenRememberedParameters(Plan& plan) {
+BinaryStream OpenOrCreateParametersFile(Plan& plan) {
   const FolderItem file = ParametersFile();
   if (file.Exists()) {
     BinaryStream stream = BinaryStream::Open(file);
@@ -59,13 +59,14 @@ BinaryStream OpenRememberedParameters(Plan& plan) {
   return stream;
 }
 
-void StartParameters(Plan& plan, const std::function<void(const std::string&)>& alert) {
+void StartParameters(Plan& plan, EntryForm& form) {
   try {
-    // In place of the zeros that a file with another fault leaves: there may well be none yet.
+    // If the folder cannot be entered, there may be no file yet, so the plan starts with the
+    // defaults; a file that is there and cannot be read leaves zeros.
     if (ParametersFile().IsUnreachable()) SetDefaultParameters(plan);
-    OpenRememberedParameters(plan).Close();
+    OpenOrCreateParametersFile(plan).Close();
   } catch (const std::exception&) {
-    alert("File “" + std::string(kParametersFileName) + "” is busy.");
+    form.Alert("File “" + std::string(kParametersFileName) + "” is busy.");
   }
 }
 

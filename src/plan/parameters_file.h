@@ -1,19 +1,17 @@
 #pragma once
 
-#include <functional>
-#include <string>
-
+#include "plan/entry_form.h"
 #include "plan/plan.h"
 #include "services/binary_stream.h"
 #include "services/folder_item.h"
 
-// The file that keeps the eight parameters between runs: one record of 44 bytes with no heading.
+// The file that keeps the eight parameters between runs: one record of 44 bytes, without a header.
 //
 //   offset  width  field           type
 //        0      2  StartYear       signed integer
 //        2      1  StartAge        signed integer
 //        3      1  YearsLeft       signed integer
-//        4      8  COLA            double, and so the four behind it
+//        4      8  COLA            double, like the four fields after it
 //       12      8  StartFundlet
 //       20      8  FundletAPR
 //       28      8  SocialSecurity
@@ -24,24 +22,27 @@ namespace fundlet {
 
 inline constexpr const char* kParametersFileName = "Fundlet.Preferences";
 
-// Where the parameters are kept, whether the file exists or not.
+// The place of the parameters file, whether the file exists or not. It has no path if the user has
+// no home folder.
 FolderItem ParametersFile();
 
-// The parameters of a first run: the present year and a plan to start from.
+// Sets the parameters of a first run: a sample plan that begins in the present year.
 void SetDefaultParameters(Plan& plan);
 
-// Write or read the eight fields at the stream's position. Each value that is read goes into the
-// plan at once, so those before a failure stand. No value is tested. IOException.
+// Write or read the eight parameters at the stream's position. Each value goes into the plan as
+// soon as it is read, so the values read before a failure remain in the plan. No value is tested.
+// Both throw IOException.
 void WriteParameters(BinaryStream& stream, const Plan& plan);
 void ReadParameters(BinaryStream& stream, Plan& plan);
 
-// The parameters file, open: the one that exists, read into the plan, or a new one with the
-// defaults, which are then in the plan too. IOException.
-BinaryStream OpenRememberedParameters(Plan& plan);
+// Opens the parameters file and reads it into the plan. If there is none, sets the defaults and
+// creates the file with them. Throws IOException.
+BinaryStream OpenOrCreateParametersFile(Plan& plan);
 
-// Gives the plan its parameters when the program starts. A file that cannot be used is reported
-// through the alert, and the start goes on. The plan then has the values read by that time, or the
-// defaults where no file could be made or its folder may not be entered.
-void StartParameters(Plan& plan, const std::function<void(const std::string&)>& alert);
+// Sets the parameters when the program starts, from the file or to the defaults. If the file cannot
+// be used, the form shows an alert, and the start goes on: the plan then has the values read before
+// the failure, or the defaults if no file could be created or its folder may not be entered. Calls
+// nothing else of the form. Throws only what the alert throws.
+void StartParameters(Plan& plan, EntryForm& form);
 
 }  // namespace fundlet

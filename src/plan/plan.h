@@ -1,13 +1,14 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace fundlet {
 
-// The numbers of the eight entry fields. Their order is also that on the screen, in the parameters
-// file and in the validation.
+// The numbers of the entry fields. Their order is also that on the screen, in the parameters file
+// and in the validation.
 enum class FocusCode : std::int64_t {
   None,
   StartYear,
@@ -18,18 +19,21 @@ enum class FocusCode : std::int64_t {
   FundletAPR,
   SocialSecurity,
   EndFundlet,
+  NumberOfCodes,  // None included; itself no code
 };
 
-// All eight, in that order.
-inline constexpr std::array<FocusCode, 8> kFocusCodes = [] {
-  std::array<FocusCode, 8> codes{};
+inline constexpr std::size_t kFieldCount = static_cast<std::size_t>(FocusCode::NumberOfCodes) - 1;
+
+// All codes of fields, in that order.
+inline constexpr std::array<FocusCode, kFieldCount> kFocusCodes = [] {
+  std::array<FocusCode, kFieldCount> codes{};
   for (int code = 1; FocusCode & place : codes) place = static_cast<FocusCode>(code++);
   return codes;
 }();
 
-// A retirement plan: the eight parameters that the user edits, what the last solve made of them,
-// and where the user was. It keeps nothing in range by itself; only ErrorDetected does. There is
-// one record for the run, and the operations on it are free functions.
+// A retirement plan: the eight parameters that the user edits, the result of the last solve, and
+// the field that the user was in. Any member may hold any value: only ErrorDetected tests ranges.
+// There is one record for the run, and the operations on it are free functions.
 //
 // Money is in dollars, rates are fractions per year (0.02 is 2%), ages and years are whole.
 struct Plan {

@@ -13,7 +13,7 @@ namespace {
 
 using enum FocusCode;
 
-// A value in the unit of its field: a constant, or what another field makes of it.
+// A value in the unit of its field: a constant, or a function of other parameters.
 struct Value {
   constexpr Value(double constant) : constant_(constant) {}
   constexpr Value(double (*of)(const Plan&)) : of_(of) {}
@@ -33,11 +33,13 @@ struct Rule {
   FocusCode field;
   Fails fails;
   Value limit;
-  Value forced;
+  Value forced;  // for the same field; must pass all its rules
   std::string_view message;
+  // The plan holds the refused value until the alert is closed, instead of the forced value.
+  bool alert_first = false;
 };
 
-// By field, in the order of the tests.
+// The rules of each field stand in the order of the tests.
 constexpr Rule kRules[] = {
     {StartYear, Fails::Below, 0.0, 0.0, "Start year must be at least 0."},
     {StartAge, Fails::Below, 52, 52, "Age must be at least 52 years old."},
@@ -48,7 +50,7 @@ constexpr Rule kRules[] = {
      "Age plus life expectancy must be less than 100 years."},
     {COLA, Fails::Below, 0.0, 0.0, "COLA (Annual Cost of Living Adjustment) must be at least 0%."},
     {COLA, Fails::AtOrAbove, 1.0, 0.9999,
-     "COLA (Annual Cost of Living Adjustment) must be less than 100%."},
+     "COLA (Annual Cost of Living Adjustment) must be less than 100%.", /*alert_first=*/true},
     {StartFundlet, Fails::Below, 0.0, 0.0, "Initial fundlet must be at least $0."},
     {StartFundlet, Fails::Above, 999'999'999, 999'999'999,
      "Initial fundlet must be at less than $1 billion."},
@@ -62,7 +64,7 @@ constexpr Rule kRules[] = {
      "Terminal fundlet must be no more than the initial fundlet."},
 };
 
-// A whole number so large that a double rounds it lies beyond every limit, rounded or not.
+// The conversion is exact: a whole number has just been read from a double.
 double ValueIn(const Plan& plan, const Parameter& parameter) {
   return parameter.whole != nullptr ? static_cast<double>(plan.*parameter.whole)
                                     : plan.*parameter.Real();
@@ -76,9 +78,7 @@ bool Failing(const Rule& rule, const Plan& plan) {
 }
 
 void Refuse(const Rule& rule, Plan& plan, EntryForm& form) {
-  // While the alert of this one is open, the plan still has the refused value.
-  const bool told_first = rule.field == COLA && rule.fails == Fails::AtOrAbove;
-  if (told_first) form.Alert(std::string(rule.message));
+  if (rule.alert_first) form.Alert(std::string(rule.message));
   plan.ErrorFocus = rule.field;
   const Parameter& parameter = ParameterOf(rule.field);
   const double forced = rule.forced.In(plan);
@@ -87,10 +87,10 @@ void Refuse(const Rule& rule, Plan& plan, EntryForm& form) {
   } else {
     plan.*parameter.Real() = forced;
   }
-  if (!told_first) form.Alert(std::string(rule.message));
+  if (!rule.alert_first) form.Alert(std::string(rule.message));
 }
 
-// Reads one field, and refuses or accepts it by its rules.
+// Reads one field and tests it by its rules; true if one of them refuses it.
 bool FieldRefused(Plan& plan, FocusCode field, EntryForm& form) {
   ReadField(plan, field, form.Text(field));
   for (const Rule& rule : kRules) {

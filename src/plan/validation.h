@@ -5,11 +5,11 @@
 
 namespace fundlet {
 
-// The one gate between the eight fields and the solver. It reads the fields in the order of their
-// codes into the plan and tests each value. The first value that fails ends the run: it is forced
-// to one that passes, ErrorFocus names the field, the user is told in one alert, and the result is
-// True. The fields behind it are not read. False means that all eight passed; then ErrorFocus is
-// None and the fields of money show what was read, rounded to whole dollars.
+// The only check between the fields and the solver. It reads the fields into the plan in the order
+// of their codes and tests each. The first invalid value ends the check: the plan gets the rule's
+// forced value, ErrorFocus names the field, one alert is shown, and the result is True; later
+// fields are not read. False means that all eight are valid; ErrorFocus is then None, and the
+// fields of money show the values read, rounded to whole dollars.
 bool ErrorDetected(Plan& plan, EntryForm& form);
 
 }  // namespace fundlet

@@ -1,6 +1,5 @@
 #include "ui/main_layout.h"
 
-#include <algorithm>
 #include <iterator>
 
 #include "desktop/controls/alignment.h"
@@ -63,23 +62,23 @@ constexpr ControlRow kControls[] = {
      "Click this button to recall the previously remembered set of paremeters."},
 };
 
-constexpr std::int64_t kLeft = kFieldAlignment.left;
-constexpr std::int64_t kRight = kFieldAlignment.right;
-
 constexpr FieldRow kFields[] = {
-    {"StartYearField", "StaticText1", kLeft},       {"StartAgeField", "StaticText2", kLeft},
-    {"YearsLeftField", "StaticText4", kLeft},       {"COLAField", "StaticText6", kRight},
-    {"StartFundletField", "StaticText8", kLeft},    {"FundletAPRField", "StaticText9", kRight},
-    {"SocialSecurityField", "StaticText11", kLeft}, {"EndFundletField", "StaticText13", kLeft},
+    {"StartYearField", "StaticText1"},       {"StartAgeField", "StaticText2"},
+    {"YearsLeftField", "StaticText4"},       {"COLAField", "StaticText6"},
+    {"StartFundletField", "StaticText8"},    {"FundletAPRField", "StaticText9"},
+    {"SocialSecurityField", "StaticText11"}, {"EndFundletField", "StaticText13"},
 };
+static_assert(std::size(kFields) == kFieldCount);
 
-// What single controls have beyond what their class and their row say.
+// Properties of single controls, beyond those of their class and of their row.
 struct OwnProperty {
   std::string_view control;
   Property property;
 };
 
 constexpr OwnProperty kOwnProperties[] = {
+    {"COLAField", {"Alignment", kFieldAlignment.right}},
+    {"FundletAPRField", {"Alignment", kFieldAlignment.right}},
     {"AnnualDrawField", {"TextAlign", kLabelAlignment.right}},
     {"Windmill", {"Visible", false}},
     {"CalculateButton", {"Default", true}},
@@ -88,14 +87,14 @@ constexpr OwnProperty kOwnProperties[] = {
 };
 
 void AddTextProperties(const ControlRow& row, std::vector<Property>& own) {
-  if (row.control_class == Label) own.push_back({"Text", row.text});
   if (row.control_class == PushButton) own.push_back({"Caption", row.text});
-  if (row.control_class != TextField) return;
-  const auto* const field = std::find_if(std::begin(kFields), std::end(kFields),
-                                         [&](const FieldRow& f) { return f.field == row.name; });
-  own.push_back({"Text", row.text});
-  own.push_back({"LimitText", static_cast<std::int64_t>(Len(row.text))});
-  own.push_back({"Alignment", field->alignment});
+  if (row.control_class == Label || row.control_class == TextField) {
+    own.push_back({"Text", row.text});
+  }
+  // The text of a field at its creation is the longest that the user can type.
+  if (row.control_class == TextField) {
+    own.push_back({"LimitText", static_cast<std::int64_t>(Len(row.text))});
+  }
 }
 
 }  // namespace

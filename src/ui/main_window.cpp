@@ -91,7 +91,7 @@ bool aFundletWindow::KeyDown(const std::string& key) {
 void aFundletWindow::CalculateButton_Action(PushButton& /*button*/) {
   ClearFocus();
   if (ErrorDetected()) return;
-  SizeArrays(plan_);
+  PrepareArrays(plan_);
   Windmill().SetVisible(true);
   Windmill().Refresh(true);
   plan_.OKtoPrint = true;
@@ -130,7 +130,7 @@ void aFundletWindow::SaveParameters() { fundlet::SaveParameters(plan_, *this); }
 void aFundletWindow::RestoreParameters() { fundlet::RestoreParameters(plan_, *this); }
 
 void aFundletWindow::StartParameters() {
-  fundlet::StartParameters(plan_, [this](const std::string& message) { Alert(message); });
+  fundlet::StartParameters(plan_, *this);
 }
 
 bool aFundletWindow::ErrorDetected() { return fundlet::ErrorDetected(plan_, *this); }

@@ -18,12 +18,18 @@ const std::string kNoNumber("\x7F\xF4\0\0\0\0\0\x01", 8);
 const std::string kMinusZero("\x80\0\0\0\0\0\0\0", 8);
 const std::string kThousand("\x40\x8F\x40\0\0\0\0\0", 8);
 
-TEST(SaveParameters, WritesTheTextsOverTheRecordAndKeepsWhatLiesBehind) {
+TEST(SaveParameters, WritesTheTextsOverTheRecordAndKeepsTheBytesAfterIt) {
   const ScratchFolder folder;
   folder.Write(kParametersFileName, std::string(44, 'x') + "tail");
   Plan plan;
-  TextForm form;
-  form.texts = {"-1.5", "40", "200", "-0", "1,000", "-0", "1000", "1e3"};
+  TextForm form({{FocusCode::StartYear, "-1.5"},
+                 {FocusCode::StartAge, "40"},
+                 {FocusCode::YearsLeft, "200"},
+                 {FocusCode::COLA, "-0"},
+                 {FocusCode::StartFundlet, "1,000"},
+                 {FocusCode::FundletAPR, "-0"},
+                 {FocusCode::SocialSecurity, "1000"},
+                 {FocusCode::EndFundlet, "1e3"}});
   SaveParameters(plan, form);
   EXPECT_EQ(folder.Read(kParametersFileName), "\xFF\xFF\x28\xC8" + kMinusZero + kThousand +
                                                   kMinusZero + kThousand + kThousand + "tail");
@@ -31,7 +37,7 @@ TEST(SaveParameters, WritesTheTextsOverTheRecordAndKeepsWhatLiesBehind) {
   EXPECT_EQ(plan.YearsLeft, 200);
 }
 
-TEST(RestoreParameters, TakesEveryBitAndShowsThePlanBeforeItMovesTheFocus) {
+TEST(RestoreParameters, ReadsEveryBitAndShowsThePlanBeforeItMovesTheFocus) {
   const ScratchFolder folder;
   folder.Write(kParametersFileName, "\x80\x01\x28\xFD" + kNoNumber + kThousand + kMinusZero +
                                         kMinusZero + kThousand + "tail");
@@ -42,13 +48,14 @@ TEST(RestoreParameters, TakesEveryBitAndShowsThePlanBeforeItMovesTheFocus) {
   EXPECT_EQ(std::bit_cast<std::uint64_t>(plan.COLA), 0x7FF4000000000001);
   EXPECT_TRUE(std::signbit(plan.FundletAPR));
   EXPECT_TRUE(plan.OKtoPrint);
-  EXPECT_EQ(form.actions,
-            (std::vector<std::string>{"text 1 -32767", "text 2 40", "text 3 -3", "text 4 NaN",
-                                      "text 5 1,000", "text 6 0.0", "text 7 0", "text 8 1,000",
-                                      "select 1", "result Initial Year Draw:  $0", "focus 1"}));
+  EXPECT_EQ(form.actions, (std::vector<std::string>{
+                              "text StartYear -32767", "text StartAge 40", "text YearsLeft -3",
+                              "text COLA NaN", "text StartFundlet 1,000", "text FundletAPR 0.0",
+                              "text SocialSecurity 0", "text EndFundlet 1,000", "select StartYear",
+                              "result Initial Year Draw:  $0", "focus StartYear"}));
 }
 
-TEST(RememberedParameters, ThatMayNotBeSeenAreRefusedAndLeaveThePlanAndTheTextsAlone) {
+TEST(RememberedParameters, LeavePlanAndTextsUnchangedIfTheirFolderCannotBeEntered) {
   const ScratchFolder folder;
   folder.Write(kParametersFileName, "kept");
   fs::permissions(folder.Path(), fs::perms::none);

@@ -59,7 +59,7 @@ void TryPaste(std::string_view choices) {
 // The text of any number reads as one that is no further off than a half of its last place.
 void TryNumber(double number) {
   const std::pair<std::string_view, double> halves[] = {
-      {mask::kDollars, 0.5}, {mask::kPercentLeft, 0.005}, {mask::kPercent, 0.0005}};
+      {mask::kDollars, 0.5}, {mask::kPercentAfterEditing, 0.005}, {mask::kPercent, 0.0005}};
   for (const auto& [mask, half_a_place] : halves) {
     const double shown = CurrencyReading(Format(number, mask));
     const double rounding = std::fabs(number) * 0x1p-52;
@@ -73,15 +73,15 @@ void TryFile(const std::string& file) {
   static const ScratchFolder folder;
   folder.Write(kParametersFileName, file);
   Plan plan;
-  bool reported = false;
-  StartParameters(plan, [&](const std::string&) { reported = true; });
+  TextForm form;
+  StartParameters(plan, form);
+  const bool reported = !form.actions.empty();
   Require(reported == (file.size() < 44));
   if (!reported) {
     BinaryStream stream = BinaryStream::Open(ParametersFile());
     WriteParameters(stream, plan);
   }
   Require(folder.Read(kParametersFileName) == file);
-  TextForm form;
   DisplayParameters(plan, form);
   ErrorDetected(plan, form);
 }

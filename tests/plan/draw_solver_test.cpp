@@ -64,7 +64,7 @@ TEST(DrawSolver, TruncatesTheSumOfTwelveDraws) {
 
 TEST(DrawSolver, StopsUnderAMissOfHalfADollarAndNotAtOne) {
   Plan plan = MakePlan(4, 0, 0, 48.25, 0, 0);
-  SizeArrays(plan);
+  PrepareArrays(plan);
   CalculateDraw(plan, 12);
   EXPECT_EQ(plan.AnnualDraw, 12);
   plan.Balance[0] = 48.5;
@@ -88,7 +88,7 @@ TEST(DrawSolver, GivesEveryBitOfTheArithmeticInItsOrder) {
   }
 }
 
-TEST(DrawSolver, FailsWhereTheBalanceOverflowsOrAnArrayIsTooShort) {
+TEST(DrawSolver, FailsIfTheBalanceOverflowsAnArrayIsTooShortOrAYieldThrows) {
   Plan plan = MakePlan(40, .03, .08, 1e6, 0, 0);
   plan.AnnualDraw = 5;
   EXPECT_EQ(LevelsOfSolve(plan), 50'000);
@@ -100,6 +100,13 @@ TEST(DrawSolver, FailsWhereTheBalanceOverflowsOrAnArrayIsTooShort) {
   EXPECT_TRUE(plan.OKtoPrint) << "the plan after a failed one";
   plan.YearsLeft = 41;
   EXPECT_NO_THROW(CalculateDraw(plan, 1));
+  EXPECT_EQ(plan.AnnualDraw, 0);
+  EXPECT_FALSE(plan.OKtoPrint);
+  plan.YearsLeft = 40;
+  plan.OKtoPrint = true;
+  SetBackgroundTask([]() -> int { throw 1; });
+  EXPECT_NO_THROW(CalculateDraw(plan, plan.AnnualDraw = 5));
+  SetBackgroundTask(nullptr);
   EXPECT_EQ(plan.AnnualDraw, 0);
   EXPECT_FALSE(plan.OKtoPrint);
 }
@@ -131,7 +138,7 @@ Long Series(Long x, std::int64_t terms) {
 // five a month, one a year in the power and a few around them, each of half a unit in the last
 // place of at most the sum of all that comes in and goes out.
 void ExpectOnTheLine(Plan plan, double draw) {
-  SizeArrays(plan);
+  PrepareArrays(plan);
   for (std::int64_t year = 1; year <= plan.YearsLeft; ++year) CalculateBalance(plan, year, draw);
   const Long monthly = 1 + Long{plan.FundletAPR} / 12;
   const Long yearly = std::pow(monthly, 12);

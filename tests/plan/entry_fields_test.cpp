@@ -11,7 +11,7 @@ namespace {
 
 using enum FocusCode;
 
-TEST(Reading, OfAWholeNumberTruncatesAndOnlyThatOfMoneyLeavesCommasOut) {
+TEST(Reading, TruncatesWholeNumbersAndLeavesCommasOutOfMoneyAlone) {
   EXPECT_EQ(IntegerReading("60.9"), 60);
   EXPECT_EQ(IntegerReading("1,23"), 1);
   EXPECT_EQ(IntegerReading("1e999"), std::numeric_limits<std::int64_t>::min());
@@ -35,10 +35,9 @@ TEST(LeaveField, ShowsWhatWasReadAndTestsNoRange) {
   };
   Plan plan;
   for (const auto& [field, typed, shown] : cases) {
-    TextForm form;
-    form.At(field) = typed;
+    TextForm form({{field, typed}});
     LeaveField(plan, field, form);
-    EXPECT_EQ(form.actions, std::vector{"text " + TextForm::Code(field) + " " + shown}) << typed;
+    EXPECT_EQ(form.actions, std::vector{"text " + NameOf(field) + " " + shown}) << typed;
   }
   EXPECT_EQ(plan.COLA, 3.125 / 100.0) << "the text is rounded, the plan is not";
   EXPECT_EQ(plan.StartFundlet, 1234.56);
@@ -49,15 +48,16 @@ TEST(Refocus, ShowsAllParametersAndSelectsTheLastField) {
   TextForm form;
   ReadAllFields(plan, form);
   plan.COLA = 0.03125;
-  std::vector<std::string> shown = {"text 1 2010",   "text 2 70",      "text 3 4",
-                                    "text 4 3.125",  "text 5 500,000", "text 6 5.0",
-                                    "text 7 20,000", "text 8 100,000"};
+  std::vector<std::string> shown = {"text StartYear 2010",        "text StartAge 70",
+                                    "text YearsLeft 4",           "text COLA 3.125",
+                                    "text StartFundlet 500,000",  "text FundletAPR 5.0",
+                                    "text SocialSecurity 20,000", "text EndFundlet 100,000"};
   Refocus(plan, form);
   EXPECT_EQ(form.actions, shown) << "no field has had the focus yet";
   EnterField(plan, StartYear, form);
   form.actions.clear();
   Refocus(plan, form);
-  shown.insert(shown.end(), {"focus 1", "select 1"});
+  shown.insert(shown.end(), {"focus StartYear", "select StartYear"});
   EXPECT_EQ(form.actions, shown);
 }
 

@@ -17,7 +17,7 @@ inline Plan MakePlan(std::int64_t years, double cola, double apr, double start, 
 
 // One press of Calculate, without the window's part of it.
 inline void Solve(Plan& plan) {
-  SizeArrays(plan);
+  PrepareArrays(plan);
   plan.OKtoPrint = true;
   CalculateDraw(plan, InitialGuess(plan));
 }

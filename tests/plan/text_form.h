@@ -1,33 +1,42 @@
 #pragma once
 
-#include <array>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "plan/entry_form.h"
+#include "tests/plan/focus_code_name.h"
 
 namespace fundlet {
 
-// Eight texts with no window behind them, and a list of all that was asked of them, in order.
+// The texts of fields, by their codes.
+using Texts = std::map<FocusCode, std::string>;
+
+// A form without a window: the eight texts of a valid plan, and a list of all calls that change
+// something or show something, in order.
 struct TextForm : EntryForm {
-  std::array<std::string, 8> texts = {"2010",    "70", "4",      "2.5",
-                                      "500,000", "5",  "20,000", "100,000"};
+  Texts texts = {
+      {FocusCode::StartYear, "2010"},        {FocusCode::StartAge, "70"},
+      {FocusCode::YearsLeft, "4"},           {FocusCode::COLA, "2.5"},
+      {FocusCode::StartFundlet, "500,000"},  {FocusCode::FundletAPR, "5"},
+      {FocusCode::SocialSecurity, "20,000"}, {FocusCode::EndFundlet, "100,000"},
+  };
   std::vector<std::string> actions;
   std::function<void()> while_alerting = [] {};
 
-  static std::string Code(FocusCode field) { return std::to_string(static_cast<int>(field)); }
-  std::string& At(FocusCode field) { return texts.at(static_cast<std::size_t>(field) - 1); }
+  TextForm() = default;
+  explicit TextForm(const Texts& others) {
+    for (const auto& [field, text] : others) texts.at(field) = text;
+  }
 
-  std::string Text(FocusCode field) const override {
-    return texts.at(static_cast<std::size_t>(field) - 1);
-  }
+  std::string Text(FocusCode field) const override { return texts.at(field); }
   void SetText(FocusCode field, const std::string& text) override {
-    At(field) = text;
-    actions.push_back("text " + Code(field) + " " + text);
+    texts.at(field) = text;
+    actions.push_back("text " + NameOf(field) + " " + text);
   }
-  void SelectAll(FocusCode field) override { actions.push_back("select " + Code(field)); }
-  void SetFocus(FocusCode field) override { actions.push_back("focus " + Code(field)); }
+  void SelectAll(FocusCode field) override { actions.push_back("select " + NameOf(field)); }
+  void SetFocus(FocusCode field) override { actions.push_back("focus " + NameOf(field)); }
   void ShowResult(const std::string& text) override { actions.push_back("result " + text); }
   void Alert(const std::string& message) override {
     actions.push_back("alert " + message);

@@ -12,8 +12,8 @@ namespace {
 
 using enum FocusCode;
 
-// A field, what stands in it, what is put in its place, and why. The form's other texts make a plan
-// that passes: 70 years old, 4 years left, $500,000.
+// A field, its invalid text, the text of the forced value, and the message. The other texts of the
+// form make a valid plan: 70 years old, 4 years left, $500,000.
 const std::tuple<FocusCode, const char*, const char*, const char*> kRefusals[] = {
     {StartYear, "-1", "0", "Start year must be at least 0."},
     {StartYear, "1e99", "0", "Start year must be at least 0."},
@@ -36,14 +36,13 @@ const std::tuple<FocusCode, const char*, const char*, const char*> kRefusals[] =
     {EndFundlet, "500,000.1", "0", "Terminal fundlet must be no more than the initial fundlet."},
 };
 
-TEST(Validation, TellsOfARefusedValueOnceAndForcesOneThatPasses) {
+TEST(Validation, ShowsOneAlertForAnInvalidValueAndForcesAValidOne) {
   for (const auto& [field, text, forced, message] : kRefusals) {
     const std::string alert = std::string("alert ") + message;
     const bool forced_afterwards = alert.find("COLA") != alert.npos && text == std::string("100");
     Plan plan;
     plan.ErrorFocus = SocialSecurity;
-    TextForm form;
-    form.At(field) = text;
+    TextForm form({{field, text}});
     form.while_alerting = [&, shown = forced_afterwards ? "100.0" : forced, field = field] {
       EXPECT_EQ(plan.ErrorFocus, forced_afterwards ? None : field) << alert;
       EXPECT_EQ(ShownText(plan, field), shown) << alert;
@@ -53,8 +52,8 @@ TEST(Validation, TellsOfARefusedValueOnceAndForcesOneThatPasses) {
     EXPECT_EQ(std::count(form.actions.begin(), form.actions.end(), alert), 1) << alert;
     EXPECT_EQ(plan.StartYear, field == StartYear ? 0 : 2010) << "the fields before it are read";
     EXPECT_EQ(plan.EndFundlet, 0) << "and none behind it: " << alert;
-    EXPECT_EQ(form.At(field), text) << "a refused field is not rewritten";
-    EXPECT_EQ(form.At(field) = ShownText(plan, field), forced) << alert;
+    EXPECT_EQ(form.Text(field), text) << "a refused field is not rewritten";
+    EXPECT_EQ(form.texts[field] = ShownText(plan, field), forced) << alert;
     form.while_alerting = [] {};
     ErrorDetected(plan, form);
     EXPECT_NE(form.actions.back(), alert);
@@ -62,14 +61,17 @@ TEST(Validation, TellsOfARefusedValueOnceAndForcesOneThatPasses) {
 }
 
 TEST(Validation, AcceptsEachValueAtItsBound) {
-  const std::array<std::string, 8> plans[] = {
-      {"-0.9", "60", "39", "-0", "999,999,999", "99.99", "99,999", "999999999"},
-      {"", "95.9", "4", "99.99", "0", "0", "0", "0"},
-      {"9999", "52", "40.9", "0", "1e3", "0", ",,", "1,000"}};
-  for (const auto& texts : plans) {
+  const Texts plans[] = {
+      {{StartYear, "-0.9"}, {StartAge, "60"}, {YearsLeft, "39"}, {COLA, "-0"}},
+      {{StartYear, ""}, {StartAge, "95.9"}, {YearsLeft, "4"}, {COLA, "99.99"}},
+      {{StartYear, "9999"}, {StartAge, "52"}, {YearsLeft, "40.9"}, {COLA, "0"}},
+      {{StartFundlet, "999,999,999"}, {FundletAPR, "99.99"}, {EndFundlet, "999999999"}},
+      {{StartFundlet, "0"}, {FundletAPR, "0"}, {SocialSecurity, "0"}, {EndFundlet, "0"}},
+      {{StartFundlet, "1e3"}, {SocialSecurity, ",,"}, {EndFundlet, "1,000"}},
+      {{SocialSecurity, "99,999"}, {EndFundlet, "-0"}}};
+  for (const Texts& texts : plans) {
     Plan plan;
-    TextForm form;
-    form.texts = texts;
+    TextForm form(texts);
     plan.ErrorFocus = SocialSecurity;
     EXPECT_FALSE(ErrorDetected(plan, form)) << form.actions.back();
     EXPECT_EQ(plan.ErrorFocus, None);
@@ -78,11 +80,16 @@ TEST(Validation, AcceptsEachValueAtItsBound) {
 
 TEST(Validation, RewritesAndSelectsTheFieldsOfMoneyThatPass) {
   Plan plan;
-  TextForm form;
-  form.texts = {"2010.5", "70", "4", "2.555", "1234567.8", "5", "1234", "-0"};
+  TextForm form({{StartYear, "2010.5"},
+                 {COLA, "2.555"},
+                 {StartFundlet, "1234567.8"},
+                 {SocialSecurity, "1234"},
+                 {EndFundlet, "-0"}});
   EXPECT_FALSE(ErrorDetected(plan, form));
-  EXPECT_EQ(form.actions, (std::vector<std::string>{"text 5 1,234,568", "select 5", "text 7 1,234",
-                                                    "select 7", "text 8 0", "select 8"}));
+  EXPECT_EQ(form.actions,
+            (std::vector<std::string>{"text StartFundlet 1,234,568", "select StartFundlet",
+                                      "text SocialSecurity 1,234", "select SocialSecurity",
+                                      "text EndFundlet 0", "select EndFundlet"}));
 }
 
 }  // namespace

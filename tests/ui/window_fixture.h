@@ -19,6 +19,7 @@
 
 #include "desktop/run/runtime.h"
 #include "desktop/windows/native_window.h"
+#include "tests/plan/focus_code_name.h"
 #include "tests/services/scratch_folder.h"
 #include "ui/main_window.h"
 
