@@ -49,7 +49,7 @@ Cells Row(const Plan& plan, std::int64_t year) {
 }
 
 std::int64_t LastSolvedYear(const Plan& plan) {
-  return static_cast<std::int64_t>(std::min(plan.Balance.size(), plan.Drawing.size())) - 1;
+  return static_cast<std::int64_t>(plan.Balance.size()) - 1;
 }
 
 }  // namespace

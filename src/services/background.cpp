@@ -1,6 +1,5 @@
 #include "services/background.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace fundlet {
@@ -13,9 +12,7 @@ BackgroundTask task = nullptr;
 
 }  // namespace
 
-void CallTask() {
-  countdown = task != nullptr ? std::max(1, task()) : std::numeric_limits<int>::max();
-}
+void CallTask() { countdown = task != nullptr ? task() : std::numeric_limits<int>::max(); }
 
 }  // namespace background
 

@@ -58,11 +58,10 @@ void AddOne(std::string& digits) {
 }
 
 Decimal Rounded(const Decimal& exact, std::size_t places) {
-  const std::size_t whole_length = exact.whole.size();
   std::string digits = exact.whole + exact.decimals.substr(0, places);
   if (exact.decimals[places] >= '5') AddOne(digits);
   const std::size_t split = digits.size() - places;
-  return {digits.substr(0, std::max(split, whole_length)), digits.substr(split)};
+  return {digits.substr(0, split), digits.substr(split)};
 }
 
 std::string Grouped(const std::string& digits) {
@@ -74,7 +73,7 @@ std::string Grouped(const std::string& digits) {
   return result;
 }
 
-// Takes off the zeros at the front that the mask does not ask for, or puts them there.
+// Removes leading zeros, or adds those that the mask asks for.
 void FitWhole(std::string& whole, std::size_t least) {
   whole.erase(0, std::min(whole.find_first_not_of('0'), whole.size()));
   if (whole.size() < least) whole.insert(0, least - whole.size(), '0');

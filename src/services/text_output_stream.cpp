@@ -1,5 +1,7 @@
 #include "services/text_output_stream.h"
 
+#include <string>
+
 namespace fundlet {
 
 namespace {
@@ -12,8 +14,7 @@ constexpr const char* kLineEnd = "\n";
 
 }  // namespace
 
-TextOutputStream::TextOutputStream(const FolderItem& item)
-    : Delimiter(kLineEnd), file_(item, FileHandle::Use::New) {}
+TextOutputStream::TextOutputStream(const FolderItem& item) : file_(item, FileHandle::Use::New) {}
 
 TextOutputStream TextOutputStream::Create(const std::optional<FolderItem>& item) {
   if (!item) throw NilObjectException("No file was named to write the text to.");
@@ -22,7 +23,7 @@ TextOutputStream TextOutputStream::Create(const std::optional<FolderItem>& item)
 
 void TextOutputStream::WriteLine(std::string_view text) {
   std::string line(text);
-  line += Delimiter;
+  line += kLineEnd;
   file_.Write(line.data(), line.size());
 }
 

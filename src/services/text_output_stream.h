@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "services/file_handle.h"
@@ -9,16 +8,14 @@
 
 namespace fundlet {
 
-// A text file being written. Every operation that fails raises an IOException.
+// A text file being written. Every operation that fails throws an IOException. After Close, the
+// stream must not be used.
 class TextOutputStream {
  public:
-  // Makes an empty file, in place of one that is there. No item raises a NilObjectException.
+  // Creates an empty file, in place of one that is there. Throws NilObjectException for nullopt.
   static TextOutputStream Create(const std::optional<FolderItem>& item);
 
-  // What ends a line; the platform's own line end unless it is set.
-  std::string Delimiter;
-
-  // Writes the text and the delimiter, in one piece.
+  // Writes the text and the platform's own line end, in one piece.
   void WriteLine(std::string_view text);
   void Close() { file_.Close(); }
 
