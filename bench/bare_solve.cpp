@@ -8,8 +8,8 @@ namespace fundlet::bench {
 
 namespace {
 
-// What no integer holds is put off to zero: a failing plan runs into infinities, and converting
-// those is undefined.
+// A total that no integer holds becomes 0, because its conversion is undefined; a failing plan has
+// infinite totals.
 std::int64_t Whole(double total) {
   return std::fabs(total) < 9.2e18 ? static_cast<std::int64_t>(total) : 0;
 }

@@ -8,25 +8,26 @@
 
 namespace fundlet::bench {
 
-// The arithmetic of a solve and nothing else: no yield, no question whether the user has cancelled,
-// no window. It is what a solve is measured and tested against, so it does the same operations in
-// the same order, and it shares no code with the solver.
+// The arithmetic of a solve and nothing else: no yield, no check whether the user has cancelled, no
+// window. Solves are measured and tested against it, so it does the same operations in the same
+// order. It shares only Pow with the solver.
 struct BareSolve {
   std::vector<double> balance;
   std::vector<std::int64_t> drawing;
-  double draw = 0.0;  // dollars per year
-  int levels = 0;     // the number it took
+  double draw = 0.0;  // that was found, dollars per year
+  int levels = 0;     // the number of levels run
 
-  // Ends after so many levels at the most.
+  // Solves a plan of at least one year, in at most so many levels, at least 1.
   void Run(const Plan& plan, int most_levels = kLevelLimit);
 };
 
-// The plans that are measured. The levels that they take differ by three orders of magnitude.
+// A plan to measure; its name is that of its benchmark.
 struct NamedPlan {
   const char* name;
   Plan plan;
 };
 
+// The plans that are measured: from 1 level to kLevelLimit.
 const std::vector<NamedPlan>& MeasuredPlans();
 
 }  // namespace fundlet::bench

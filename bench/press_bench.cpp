@@ -21,7 +21,7 @@ namespace fundlet::bench {
 
 namespace {
 
-// The solve that decides whether the yields and the open window cost too much: 11,693 levels.
+// A plan of 11,693 levels, long enough to show the cost of the yields and of the open window.
 const Plan& TheLongPlan() {
   for (const auto& [name, plan] : MeasuredPlans()) {
     if (name == std::string("40_years_5.04%")) return plan;
@@ -51,8 +51,8 @@ void Key(aFundletWindow& window, Qt::Key key) {
   QCoreApplication::sendEvent(window.Native().windowHandle(), &press);
 }
 
-// From the key stroke in the open window to the painted result: the reading of the fields, the
-// solve with its yields, the busy wheel, and all that Qt then has to do.
+// The time from the key press in the open window to the painted result: reading the fields, the
+// solve with its yields, the busy wheel, and Qt's events.
 void Press(benchmark::State& state) {
   aFundletWindow& window = aFundletWindow::Instance();
   TypeIn(window, TheLongPlan());
@@ -66,8 +66,8 @@ void Press(benchmark::State& state) {
   CountMonths(state, TheLongPlan(), bare.levels);
 }
 
-// The time from an Escape, in the middle of a solve that would go on to the limit, until the
-// computation has ended and the button can be pressed again.
+// The time from Escape, pressed during a solve that would otherwise run to the level limit, until
+// the handler of the button has returned.
 void AnswerToEscape(benchmark::State& state) {
   aFundletWindow& window = aFundletWindow::Instance();
   Plan endless = TheLongPlan();

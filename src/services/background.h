@@ -1,8 +1,8 @@
 #pragma once
 
-// What a long computation does for the rest of the program: it yields now and then, and it asks
-// whether the user wants it to stop. Both cost next to nothing. The desktop sets the task and tells
-// of the user; without it nothing happens.
+// A long computation calls the yield regularly, so that the window stays alive, and checks whether
+// the user has cancelled it. Both cost next to nothing. src/desktop installs the background task
+// and sets the flag; without it neither has an effect.
 namespace fundlet {
 
 namespace background {
@@ -10,24 +10,24 @@ namespace background {
 inline int countdown = 1;  // yields until the task is called again
 inline bool cancelled = false;
 
-void CallTask();
+void CallTask();  // calls the background task, if there is one, and sets countdown anew
 
 }  // namespace background
 
-// Called from the yields once in a while. It returns the number of yields, at least 1, after which
-// it is to be called again. Null: no task.
+// The background task, called by some of the yields, which let its exceptions through. It returns
+// the number of yields, at least 1, after which it is called again. Null: no task.
 using BackgroundTask = int (*)();
 void SetBackgroundTask(BackgroundTask task);
 
-// The yield: a decrement and a branch, and now and then the background task.
+// The yield: a decrement and a branch, and once in a while a call of the background task.
 inline void RuntimeBackgroundTask() {
   if (--background::countdown <= 0) background::CallTask();
 }
 
-// True when the user has asked to stop the computation in progress.
+// True if the user has cancelled the computation in progress.
 inline bool UserCancelled() { return background::cancelled; }
 
-// Says that the user has asked to stop, or that a new computation begins and nobody has yet.
+// Sets the flag when the user cancels; clears it before a new computation.
 inline void SetUserCancelled(bool cancelled) { background::cancelled = cancelled; }
 
 }  // namespace fundlet

@@ -2,7 +2,7 @@
 
 namespace fundlet {
 
-// A moment of the local calendar; a new one holds the present moment.
+// A moment in the local time zone: that of its creation.
 class Date {
  public:
   Date();

@@ -9,9 +9,9 @@
 
 namespace fundlet {
 
-// One open file, shared by the streams: it turns each failed call into an IOException that names
-// the file. Nothing is buffered, so a failure shows at the call that caused it. A handle that is
-// dropped without Close closes the file and says nothing.
+// One open file, for the streams. Every call that fails throws an IOException, which names the
+// file. Nothing is buffered, so a failure is reported by the call that caused it. The destructor
+// closes the file without reporting a failure. After Close, the handle must not be used.
 class FileHandle {
  public:
   // Existing: opened for reading and writing. New: an empty file, in place of one that is there,
@@ -20,12 +20,13 @@ class FileHandle {
   // can read its folder.
   enum class Use { Existing, New, NewPrivate };
 
-  // What is there and is not a file, such as a folder or a pipe, is refused.
+  // Fails if the path leads to something other than a file, such as a folder or a pipe.
   FileHandle(const FolderItem& item, Use use);
 
-  void Read(void* bytes, std::size_t count);  // all of them, or IOException
+  void Read(void* bytes, std::size_t count);  // fails if the file ends before
   void Write(const void* bytes, std::size_t count);
-  void SetPosition(long position);  // in bytes from the start
+  // Moves to a byte offset from the start, at least 0. A failure is reported as FileAction::Write.
+  void SetPosition(long position);
   void Close();
 
  private:

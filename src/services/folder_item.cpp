@@ -46,8 +46,8 @@ void FolderItem::SetMacCreator([[maybe_unused]] std::string_view code) const {
 
 namespace {
 
-// A folder that the environment names; empty where it names none or names it relative to the
-// folder that the program happens to be started in.
+// The folder that an environment variable names; empty if it names none, or names it relative to
+// the current folder, which is there by chance.
 fs::path FolderFromEnvironment(const char* variable) {
 #ifdef _WIN32
   const std::string name = variable;
@@ -78,10 +78,10 @@ fs::path PreferencesPath() {
 FolderItem SpecialFolder::Preferences() {
   const fs::path path = PreferencesPath();
   if (path.empty()) return {};
-  // A folder that cannot be made shows when the file in it is opened or created, which says why.
+  // A failure is reported when a file in the folder is opened or created.
   std::error_code ignored;
   const bool made = fs::create_directories(path, ignored);
-  // What is kept there is nobody else's business.
+  // The plan is private.
   if (made) fs::permissions(path, fs::perms::owner_all, ignored);
   return FolderItem(path);
 }

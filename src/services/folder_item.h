@@ -6,8 +6,9 @@
 
 namespace fundlet {
 
-// A place in the file system, whether anything is there or not. Where there is no such place, as in
-// the home folder of a user who has none, it has no path: nothing exists and nothing can be made.
+// A place in the file system, whether a file or folder is there or not. It has no path if there is
+// no such place, as in the home folder of a user who has none: nothing exists in it, and to open or
+// create something in it fails.
 class FolderItem {
  public:
   FolderItem() = default;
@@ -15,16 +16,16 @@ class FolderItem {
 
   // The entry of that name (UTF-8) inside this folder.
   FolderItem Child(std::string_view name) const;
-  // Also True where the system cannot tell, so that nothing is overwritten; opening it then fails
-  // with the reason.
+  // Also True if the system cannot tell, so that nothing is overwritten; to open the file then
+  // fails with the reason.
   bool Exists() const;
-  // True where the system cannot tell whether it exists, as in a folder that may not be entered.
+  // True if the system cannot tell whether it exists, as in a folder that may not be entered.
   bool IsUnreachable() const;
   // The entry's own name, without its folders, in UTF-8.
   const std::string& Name() const { return name_; }
   const std::filesystem::path& Path() const { return path_; }
-  // Sets the four-character creator code, where the platform has such an attribute; elsewhere it
-  // does nothing.
+  // Sets the creator code, four characters, on a Mac; elsewhere files have none, and it does
+  // nothing. Reports no failure.
   void SetMacCreator(std::string_view code) const;
 
  private:
@@ -33,10 +34,10 @@ class FolderItem {
 };
 
 struct SpecialFolder {
-  // The user's folder for preferences: $XDG_CONFIG_HOME, or ~/.config without one, and what other
-  // systems have in its place. It is made, for this user alone, when it does not exist; where that
-  // fails, what is then opened or created in it fails with the reason. Without a home folder the
-  // result has no path.
+  // The user's folder for preferences: $XDG_CONFIG_HOME or, without it, ~/.config; on a Mac
+  // ~/Library/Preferences, on Windows %APPDATA%. If it does not exist, it is created, for this user
+  // alone; if that fails, to open or create a file in it fails with the reason. The result has no
+  // path if the environment names no such folder by an absolute path.
   static FolderItem Preferences();
 };
 

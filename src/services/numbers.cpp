@@ -7,13 +7,13 @@ namespace fundlet {
 
 namespace {
 
-// A number as a double and what that leaves of it, so that it has twice the digits.
+// A number with twice the digits of a double: the nearest double, and the difference from it.
 struct Twofold {
   double head;
   double rest;
 };
 
-// The product. That of the heads is exact: each half of a double has so few digits that the
+// The product. The product of the heads is exact: each half of a double has so few digits that the
 // products of the halves are not rounded.
 Twofold Times(const Twofold& number, double factor) {
   const auto upper_half = [](double whole) {
@@ -33,8 +33,8 @@ Twofold Times(const Twofold& number, double factor) {
 
 constexpr int kHighestPower = 63;
 
-// The powers of one base, as far as they have been asked for: a solve asks for the same ones again
-// and again.
+// The powers of one base that have been needed so far, because a solve needs the same ones at each
+// level.
 struct Powers {
   double base = 1.0;
   std::size_t known = 0;

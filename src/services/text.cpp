@@ -9,7 +9,7 @@ namespace fundlet {
 double Val(std::string_view text) {
   const std::size_t begin = std::min(text.find_first_not_of(" \t"), text.size());
   const std::size_t end = text.find_first_not_of("+-.0123456789eE", begin);
-  // strtod expects the locale's decimal point, and alone gets every double right in every library.
+  // Only strtod rounds correctly in every library; it expects the locale's decimal point.
   const std::string number =
       ReplaceAll(text.substr(begin, end - begin), ".", std::localeconv()->decimal_point);
   char* behind = nullptr;
