@@ -34,7 +34,7 @@ const std::string kSampleSchedule =
     "2012\t72\t315,666\t138,123\t211,984\t73\n"
     "2013\t73\t211,984\t141,577\t100,000\t74\n";
 
-TEST(DrawSchedule, ReplacesAFileByTheParametersAndOneRowForEachYear) {
+TEST(DrawSchedule, ReplacesAFileWithTheParametersAndOneRowForEachYear) {
   const ScratchFolder folder;
   const std::string name = "Entnahme ½ 年金 📈.txt";
   folder.Write(name, std::string(5000, 'x'));
@@ -45,7 +45,7 @@ TEST(DrawSchedule, ReplacesAFileByTheParametersAndOneRowForEachYear) {
   EXPECT_EQ(folder.Read(name), kSampleSchedule);
 }
 
-TEST(DrawSchedule, ShowsTheParametersOfNowAboveTheBalancesOfTheLastSolveAndNoYearsBeyondIt) {
+TEST(DrawSchedule, ShowsThePresentParametersAboveTheLastSolveAndNoYearsBeyondIt) {
   const ScratchFolder folder;
   Plan plan = SolvedSample();
   for (const auto& [years_left, rows] : {std::pair{5, 4}, {127, 4}, {3, 3}, {0, 0}, {-128, 0}}) {

@@ -20,7 +20,8 @@ void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-// Any text reads as some number, and what a field shows of it reads as what is shown.
+// Any text reads as a number. Unless it is a rate, whose text may round it, the text shown for the
+// number reads as a number with the same text.
 void TryText(std::string_view text) {
   Require(Len(text) <= text.size() && !std::isnan(Val(text)));
   for (const FocusCode field : kFocusCodes) {
@@ -56,7 +57,7 @@ void TryPaste(std::string_view choices) {
   }
 }
 
-// The text of any number reads as one that is no further off than a half of its last place.
+// The text of any number reads as a number that differs by at most half of its last place.
 void TryNumber(double number) {
   const std::pair<std::string_view, double> halves[] = {
       {mask::kDollars, 0.5}, {mask::kPercentAfterEditing, 0.005}, {mask::kPercent, 0.0005}};
@@ -68,7 +69,8 @@ void TryNumber(double number) {
   }
 }
 
-// Any file starts the program; one that is long enough is remembered again byte for byte.
+// The program starts with any file, and writes the record of one that is long enough back byte for
+// byte.
 void TryFile(const std::string& file) {
   static const ScratchFolder folder;
   folder.Write(kParametersFileName, file);

@@ -23,7 +23,7 @@ int CountYield() {
   return 1;
 }
 
-// Solves, and gives the number of levels run: each yields once a month and once a year.
+// Solves and returns the number of levels run: each level yields once a month and once a year.
 int LevelsOfSolve(Plan& plan, int cancel_at_yield = 0) {
   yields = 0;
   cancel_at = cancel_at_yield;
@@ -57,12 +57,12 @@ TEST(DrawSolver, FindsTheDrawOfEachSamplePlan) {
 TEST(DrawSolver, TruncatesTheSumOfTwelveDraws) {
   Plan plan = DefaultPlan();
   Solve(plan);
-  EXPECT_EQ(plan.Drawing[0], 73324) << "where the result shows 73,325";
+  EXPECT_EQ(plan.Drawing[0], 73324) << "although the result shows 73,325";
   CalculateBalance(plan, 1, 100000);
   EXPECT_EQ(plan.Drawing[0], 99999);
 }
 
-TEST(DrawSolver, StopsUnderAMissOfHalfADollarAndNotAtOne) {
+TEST(DrawSolver, StopsBelowAMissOfHalfADollarAndNotAtIt) {
   Plan plan = MakePlan(4, 0, 0, 48.25, 0, 0);
   PrepareArrays(plan);
   CalculateDraw(plan, 12);
@@ -97,7 +97,7 @@ TEST(DrawSolver, FailsIfTheBalanceOverflowsAnArrayIsTooShortOrAYieldThrows) {
   EXPECT_FALSE(plan.OKtoPrint);
   plan.FundletAPR = .05;
   Solve(plan);
-  EXPECT_TRUE(plan.OKtoPrint) << "the plan after a failed one";
+  EXPECT_TRUE(plan.OKtoPrint) << "a plan can be solved after a failed one";
   plan.YearsLeft = 41;
   EXPECT_NO_THROW(CalculateDraw(plan, 1));
   EXPECT_EQ(plan.AnnualDraw, 0);
@@ -133,10 +133,10 @@ Long Series(Long x, std::int64_t terms) {
   return sum;
 }
 
-// Compares one simulation with the closed form: the final balance is what the Fundlet grows to,
-// less the slope for each dollar that is drawn in the first year. The bound counts the roundings,
-// five a month, one a year in the power and a few around them, each of half a unit in the last
-// place of at most the sum of all that comes in and goes out.
+// Compares one level with the closed form: the final balance is the grown Fundlet, less the slope
+// for each dollar of the trial draw. The bound counts the roundings, five a month, one a year in
+// the power and a few around them. Each is at most half a unit in the last place of the sum of all
+// income and all draws.
 void ExpectOnTheLine(Plan plan, double draw) {
   PrepareArrays(plan);
   for (std::int64_t year = 1; year <= plan.YearsLeft; ++year) CalculateBalance(plan, year, draw);
@@ -155,9 +155,9 @@ void ExpectOnTheLine(Plan plan, double draw) {
       << draw;
 }
 
-TEST(ClosedForm, GivesTheFinalBalanceOfAnyAcceptedPlan) {
+TEST(ClosedForm, GivesTheFinalBalanceOfAnyValidPlan) {
   std::mt19937_64 random(4);
-  // Now an edge, now anything between zero and the greatest.
+  // Either an edge or a random number from zero to the greatest.
   const auto pick = [&random](double greatest, std::initializer_list<double> edges) {
     const std::size_t edge = random() % (2 * edges.size());
     if (edge < edges.size()) return edges.begin()[edge];

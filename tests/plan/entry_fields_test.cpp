@@ -11,7 +11,7 @@ namespace {
 
 using enum FocusCode;
 
-TEST(Reading, TruncatesWholeNumbersAndLeavesCommasOutOfMoneyAlone) {
+TEST(Reading, TruncatesWholeNumbersAndRemovesCommasOnlyFromMoney) {
   EXPECT_EQ(IntegerReading("60.9"), 60);
   EXPECT_EQ(IntegerReading("1,23"), 1);
   EXPECT_EQ(IntegerReading("1e999"), std::numeric_limits<std::int64_t>::min());

@@ -85,7 +85,7 @@ TEST(StartParameters, StartsWithZerosIfTheFileCannotBeOpened) {
   folder.Write(kParametersFileName, kRecord);
   for (const unsigned mode : {0444U, 0222U, 0U, 0111U}) {
     fs::permissions(file, fs::perms{mode});
-    // And at last a folder in its place.
+    // The last case is a folder in place of the file.
     if (mode == 0111) fs::remove(file), fs::create_directory(file);
     const Started started = (OrdinaryUser(), Started());
     EXPECT_EQ(started.alerts, kBusy) << std::oct << mode;

@@ -15,7 +15,7 @@ inline Plan MakePlan(std::int64_t years, double cola, double apr, double start, 
           .EndFundlet = end};
 }
 
-// One press of Calculate, without the window's part of it.
+// One press of Calculate with a valid plan, without the window.
 inline void Solve(Plan& plan) {
   PrepareArrays(plan);
   plan.OKtoPrint = true;

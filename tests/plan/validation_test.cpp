@@ -50,8 +50,8 @@ TEST(Validation, ShowsOneAlertForAnInvalidValueAndForcesAValidOne) {
     EXPECT_TRUE(ErrorDetected(plan, form)) << alert;
     EXPECT_EQ(plan.ErrorFocus, field) << alert;
     EXPECT_EQ(std::count(form.actions.begin(), form.actions.end(), alert), 1) << alert;
-    EXPECT_EQ(plan.StartYear, field == StartYear ? 0 : 2010) << "the fields before it are read";
-    EXPECT_EQ(plan.EndFundlet, 0) << "and none behind it: " << alert;
+    EXPECT_EQ(plan.StartYear, field == StartYear ? 0 : 2010) << "earlier fields are read";
+    EXPECT_EQ(plan.EndFundlet, 0) << "later fields are not: " << alert;
     EXPECT_EQ(form.Text(field), text) << "a refused field is not rewritten";
     EXPECT_EQ(form.texts[field] = ShownText(plan, field), forced) << alert;
     form.while_alerting = [] {};

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
+TEST(BinaryStream, NamesFileActionAndReasonOfAFailure) {
   const ScratchFolder folder;
   folder.Write("short", "abc");
   fs::create_directory(folder.Path() / "folder");
@@ -50,7 +50,7 @@ TEST(BinaryStream, NamesTheFileTheActionAndTheReasonOfAFailure) {
   EXPECT_EQ(ReasonText(99999), "the system reports fault number 99999");
 }
 
-TEST(BinaryStream, CreatesAFileForItsOwnerAloneAndTextsForWhomTheUserAllows) {
+TEST(BinaryStream, CreatesAFileForItsOwnerAloneUnlikeATextStream) {
   const ScratchFolder folder;
   const mode_t before = umask(0022);
   BinaryStream::Create(folder.Item("plan")).Close();
@@ -79,7 +79,7 @@ TEST(BinaryStream, NamesTheActionOfAnyCallThatFails) {
     const int next = dup(0);
     close(next);
     BinaryStream stream = BinaryStream::Open(folder.Item("file"));
-    ASSERT_EQ(close(next), 0) << "the file behind the stream is gone now";
+    ASSERT_EQ(close(next), 0) << "closes the stream's own file";
     const std::string error = ErrorOf([&stream, &c = call] { c(stream); });
     EXPECT_NE(error.find(std::string("be ") + action + ": the "), std::string::npos) << error;
   }
@@ -92,7 +92,7 @@ TEST(Preferences, AreInTheConfigurationFolderOrInTheHomeFolder) {
   setenv("HOME", home.c_str(), 1);
   setenv("XDG_CONFIG_HOME", config.c_str(), 1);
   EXPECT_EQ(SpecialFolder::Preferences().Path(), config);
-  EXPECT_EQ(fs::status(config).permissions(), fs::perms::owner_all) << "made, for nobody else";
+  EXPECT_EQ(fs::status(config).permissions(), fs::perms::owner_all) << "created for nobody else";
   setenv("XDG_CONFIG_HOME", "relative/folder", 1);
   EXPECT_EQ(SpecialFolder::Preferences().Path(), home / ".config");
   unsetenv("XDG_CONFIG_HOME");

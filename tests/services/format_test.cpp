@@ -30,7 +30,7 @@ TEST(Format, ShowsTheDigitsThatTheMaskAsksFor) {
   EXPECT_EQ(Shown("##0.0##", {0, 2.5, 3.125, 2.126, 10.1, 5e-324}), "0.0 2.5 3.125 2.126 10.1 0.0");
 }
 
-TEST(Format, RoundsTheExactValueAndAHalfAwayFromZero) {
+TEST(Format, RoundsTheExactValueWithHalvesAwayFromZero) {
   EXPECT_EQ(Shown("#0.0#", {3.125, 2.675, 1.005, 99.995, -3.125}), "3.13 2.67 1.0 100.0 -3.13");
   EXPECT_EQ(Shown(kDollars, {0.5, 2.5, -2.5, 0.49999999999999994, 999.5}), "1 3 -3 0 1,000");
   EXPECT_EQ(Shown("#0.0#", {1.115, 0.005, -0.004, -0.005}), "1.11 0.01 0.0 -0.01");
@@ -52,7 +52,7 @@ struct CommaAsPoint : std::numpunct<char> {
   std::string do_grouping() const override { return "\1"; }
 };
 
-TEST(Format, AndValDependOnNoLocale) {
+TEST(Format, DependsOnNoLocaleNorDoesVal) {
   const std::locale before =
       std::locale::global(std::locale(std::locale::classic(), new CommaAsPoint));
   const bool c_too = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;

@@ -12,7 +12,7 @@
 
 namespace fundlet {
 
-// What the action's failure says; empty where it does not fail.
+// The message of the exception that the action throws; empty if it throws none.
 inline std::string ErrorOf(const std::function<void()>& action) {
   try {
     action();
@@ -22,7 +22,7 @@ inline std::string ErrorOf(const std::function<void()>& action) {
   return "";
 }
 
-// A new folder that is the user's preferences folder too, for as long as it lives.
+// A new folder, which is also the user's preferences folder, until the object is destroyed.
 class ScratchFolder {
  public:
   ScratchFolder() {
@@ -36,7 +36,7 @@ class ScratchFolder {
   const std::filesystem::path& Path() const { return path_; }
   FolderItem Item(const std::string& name) const { return FolderItem(path_ / name); }
   void Write(const std::string& name, const std::string& bytes) const {
-    // Some file systems wait for the disk when a file is emptied and written again.
+    // Some file systems wait for the disk if an existing file is emptied and written again.
     std::filesystem::remove(path_ / name);
     std::ofstream(path_ / name, std::ios::binary) << bytes;
   }
@@ -49,7 +49,8 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
-// Takes root's power over every file away for as long as it lives; others keep what they have.
+// Until its destruction, root has only the permissions of an ordinary user; other users keep
+// theirs.
 class OrdinaryUser {
  public:
   OrdinaryUser() { Become(uid_ == 0 ? kNobody : uid_); }

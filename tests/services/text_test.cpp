@@ -37,7 +37,7 @@ TEST(Val, GivesZeroForATextThatBeginsWithNoNumber) {
           "NaN", "-Infinity", "１２", "−5", "\u00A05", "\303(5", "\2005", "\377\376"});
 }
 
-TEST(Val, TakesWhatNoDoubleHoldsToAnInfinityOrAZeroOfItsSign) {
+TEST(Val, GivesAnInfinityOrAZeroOfTheSameSignBeyondTheRangeOfADouble) {
   const std::string zeros(10'000, '0');
   const std::string nines(10'000, '9');
   ExpectEachReadsAs(kInfinity,
@@ -57,19 +57,19 @@ TEST(Val, IsRoundedCorrectlyFromTheLeastNumberToTheGreatest) {
   ExpectEachReadsAs(9007199254740994, {"9007199254740993." + std::string(800, '0') + "1"});
 }
 
-TEST(Chr, AndLenKnowCharactersOfOneToFourBytes) {
+TEST(Chr, EncodesCharactersOfOneToFourBytesThatLenCounts) {
   const std::string text = "\t\x7F\u00E9\u07FF\u0800\u20AC\uE000\uFFFD\U00010000\U0010FFFF";
   std::string made;
   for (const int code : {9, 0x7F, 0xE9, 0x7FF, 0x800, 0x20AC, 0xE000, 0xD800, 0x10000, 0x10FFFF}) {
     made += Chr(static_cast<std::uint32_t>(code));
     EXPECT_EQ(Len(Chr(static_cast<std::uint32_t>(code))), 1U) << code;
   }
-  EXPECT_EQ(made, text) << "what is no character's code gives U+FFFD";
+  EXPECT_EQ(made, text) << "a code that is no character gives U+FFFD";
   EXPECT_EQ(Chr(0x110000) + Chr(0xDFFF), "\uFFFD\uFFFD");
   EXPECT_EQ(Len(text), 10U);
 }
 
-TEST(ReplaceAll, ReplacesFromTheLeftAndNothingWhereThereIsNothingToFind) {
+TEST(ReplaceAll, ReplacesFromTheLeftAndNothingForAnEmptyText) {
   EXPECT_EQ(ReplaceAll("aaab", "aa", "a"), "aab");
   EXPECT_EQ(ReplaceAll("ab", "", "x"), "ab");
 }
@@ -83,7 +83,7 @@ TEST(Pow, IsTheNearestDoubleWhereLibrariesDiffer) {
   EXPECT_EQ(Pow(0.5, -2), 4);
 }
 
-TEST(Truncated, GoesTowardZeroAndGivesTheLowestForWhatDoesNotFit) {
+TEST(Truncated, RoundsTowardZeroAndGivesTheLowestIntegerBeyondTheRange) {
   constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
   EXPECT_EQ(Truncated(-60.9), -60);
   EXPECT_EQ(Truncated(9223372036854774784.0), 9223372036854774784);
