@@ -25,8 +25,11 @@ class BareWindow : public ::testing::Test {
 
   void SetUp() override {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    application_.IconFiles = "no icon of size %1";
     runtime_.Start([this] { RegisterApplication(application_); }, [this] { window_.emplace(); });
     window_->SetMenuBar(menu_bar_);
+    window_->SetWidth(400);
+    window_->SetHeight(300);
     window_->Open();
   }
 
