@@ -134,10 +134,7 @@ TEST_F(Help, IsFoundAsItWasLeftAndAPressPlacesTheCaretWhereItIs) {
 }
 
 TEST_F(ASmallScreen, ShowsTheTitleBarOfTheHelpAndItsButton) {
-  folder_.Write("screen", R"({"screens": [{"name": "small", "x": 0, "y": 0, "width": 683,
-      "height": 384, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-  setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + folder_.Path().string() + "/screen").c_str(),
-         1);
+  UseScreen(683, 384);
   Start();
   user::Key(Qt::Key_F1);
   const QRect help = GlobalModule::HelpWindow->Native().geometry();

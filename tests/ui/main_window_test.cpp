@@ -123,6 +123,20 @@ TEST_F(AStart, GoesOnAfterAFileThatCannotBeReadAndLeavesItAlone) {
   }
 }
 
+TEST_F(AStart, PlacesTheWindowOnAnyScreenByWholeNumbers) {
+  const std::tuple<int, int, int, int> cases[] = {
+      {1440, 877, 350, 316}, {701, 220, -19, 24}, {743, 219, 1, 24}, {740, 221, 0, -11}};
+  // The offscreen platform adds its margin to a position that lies before it.
+  const auto shown_at = [](int position) { return position < 2 ? position + 2 : position; };
+  for (const auto& [width, height, left, top] : cases) {
+    UseScreen(width, height);
+    Start();
+    EXPECT_EQ(Main().Left(), shown_at(left)) << width;
+    EXPECT_EQ(Main().Top(), shown_at(top)) << height;
+    End();
+  }
+}
+
 TEST_F(AStart, ReadsNotANumberAsZeroAndRefusesAHugeNumberOnlyWhenItCalculates) {
   const std::pair<const char*, std::vector<std::string>> cases[] = {
       {"\x7F\xF8\1\1\1\1\1\1", {}},

@@ -179,6 +179,14 @@ FundletTest::~FundletTest() {
   End();
 }
 
+void FundletTest::UseScreen(int width, int height) {
+  folder_.Write("screen", R"({"screens": [{"name": "only", "x": 0, "y": 0, "width": )" +
+                              std::to_string(width) + ", \"height\": " + std::to_string(height) +
+                              R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  const std::string platform = "offscreen:configfile=" + (folder_.Path() / "screen").string();
+  setenv("QT_QPA_PLATFORM", platform.c_str(), 1);
+}
+
 void FundletTest::Start(const QString& system_font) {
   GlobalModule::Initialise();
   runtime_.emplace("fundlet");

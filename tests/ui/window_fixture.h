@@ -84,6 +84,7 @@ class FundletTest : public ::testing::Test {
   FundletTest();
   ~FundletTest() override;
 
+  void UseScreen(int width, int height);  // in pixels; to be called before Start
   void Start(const QString& system_font = "");
   // Runs the event loop with the action as its first event, until Quit; gives the exit status.
   int RunWith(const std::function<void()>& action);
