@@ -96,6 +96,13 @@ TEST_F(Commands, TheLifeExpectancyIsThatOfTheAgeBeingTyped) {
   const std::pair<Way, const char*> cases[] = {
       {[] { user::Shortcut(Qt::Key_2); }, "14"},
       {[] { user::Shortcut(Qt::Key_4); }, "19"},
+      {[] {
+         constexpr quint32 kKeyOfTwo = 11;
+         QKeyEvent press(QEvent::KeyPress, Qt::Key_Eacute, Qt::ControlModifier, kKeyOfTwo, 0, 0,
+                         "é");
+         QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &press);
+       },
+       "14"},
       {[] { user::Shortcut(Qt::Key_8); }, "23"},
       {[] { user::Choose("Edit", "Calculate life expectancy", "when 1/2 survive"); }, "14"},
   };

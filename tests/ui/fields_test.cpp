@@ -249,6 +249,20 @@ TEST_F(Hand, TheLimitHoldsForWhatIsEnteredOverALongerTextAndUndoSurvives) {
   EXPECT_EQ(Text("StartYearField"), "😀😀😀1");
 }
 
+TEST_F(Hand, EntersTheDecimalPointByTheKeypadAndNothingWithAltOrTheWindowsKey) {
+  Fill("COLAField", "");
+  user::Type("1");
+  for (const Qt::KeyboardModifier modifier : {Qt::AltModifier, Qt::MetaModifier}) {
+    user::Key(Qt::Key_S, modifier);
+    user::Key(Qt::Key_2, modifier);
+  }
+  user::Key(Qt::Key_Comma, Qt::KeypadModifier);
+  user::Key(Qt::Key_5, Qt::KeypadModifier);
+  EXPECT_EQ(Text("COLAField"), "1.5");
+  user::Key(Qt::Key_Comma);
+  EXPECT_EQ(Text("COLAField"), "1.5,");
+}
+
 TEST_F(Hand, ATextWithoutTheFocusIsSeenFromItsHead) {
   auto& field = Found<QLineEdit>("StartYearField");
   Fill("StartYearField", "1e99");
@@ -279,7 +293,9 @@ TEST_F(Hand, ThatHoldsAKeyAnswersNoDialogButStillTypesAName) {
     name->setFocus();
     name->clear();
     Repeat(dialog, Qt::Key_X, true, {}, "x");
-    EXPECT_EQ(name->text(), "x");
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_X, Qt::AltModifier);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Comma, Qt::KeypadModifier);
+    EXPECT_EQ(name->text(), "x,");
     EXPECT_EQ(name->completer(), nullptr);
     only_by_a_fresh_key(dialog);
   });

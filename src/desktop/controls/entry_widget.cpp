@@ -26,6 +26,19 @@ bool Types(const QKeyEvent& event) {
 }
 
 // The shortcuts of the Edit menu, which reach a field as keys. Held down, they act once.
+// The keypad's decimal key, which many keyboard layouts give a comma. Some layouts mark it with no
+// Qt::KeypadModifier, so it is also known by its place on the keyboard.
+bool IsDecimalKey(const QKeyEvent& event) {
+#ifdef Q_OS_WIN
+  constexpr quint32 kScanCode = 83;
+#else
+  constexpr quint32 kScanCode = 91;
+#endif
+  const bool of_keypad =
+      event.modifiers().testFlag(Qt::KeypadModifier) || event.nativeScanCode() == kScanCode;
+  return of_keypad && (event.text() == "," || event.text() == u"\u066B");
+}
+
 bool IsHeldCommand(const QKeyEvent& event) {
   const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
   const bool shortcut = letter && event.modifiers().testFlag(Qt::ControlModifier);
@@ -99,6 +112,13 @@ void EntryWidget::keyPressEvent(QKeyEvent* event) {
   if (IsHeldCommand(*event)) return;
   if (event->matches(QKeySequence::Paste)) {
     const bool selection = event->key() == Qt::Key_Insert &&
+  if (IsDecimalKey(*event)) {
+    QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), event->nativeScanCode(),
+                    event->nativeVirtualKey(), event->nativeModifiers(), ".", event->isAutoRepeat(),
+                    static_cast<quint16>(event->count()));
+    keyPressEvent(&point);
+    return;
+  }
                            event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
     PasteFrom(selection ? QClipboard::Selection : QClipboard::Clipboard);
   } else if (Types(*event) && !HasRoomFor(event->text())) {

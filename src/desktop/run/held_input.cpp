@@ -9,18 +9,10 @@
 #include "desktop/base/application.h"
 #include "desktop/base/run_state.h"
 #include "desktop/drawing/own_frame.h"
+#include "desktop/run/key_rules.h"
 #include "desktop/windows/modal_dialog.h"
 #include "desktop/windows/native_window.h"
 #include "services/background.h"
-
-// The road that the keys take in Qt before they reach a widget, as its QTest takes it for keys that
-// do not come from the desktop: first ShortcutOverride, then the shortcuts.
-QT_BEGIN_NAMESPACE
-// NOLINTNEXTLINE(misc-use-internal-linkage)
-Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
-                                               Qt::KeyboardModifiers modifiers, const QString& text,
-                                               bool repeated, ushort count);
-QT_END_NAMESPACE
 
 namespace fundlet {
 
@@ -200,10 +192,7 @@ void HeldInput::ReplayNext() {
 
 void HeldInput::Deliver(QObject& receiver, QEvent& event) {
   if (event.type() == QEvent::KeyPress) {
-    const auto& key = static_cast<const QKeyEvent&>(event);
-    const bool shortcut = qt_sendShortcutOverrideEvent(
-        &receiver, key.timestamp(), key.key(), key.modifiers(), key.text(), key.isAutoRepeat(), 1);
-    if (shortcut) return;
+    if (ChoosesShortcut(receiver, static_cast<const QKeyEvent&>(event))) return;
   }
   QCoreApplication::sendEvent(&receiver, &event);
 }

@@ -14,6 +14,7 @@
 #include "desktop/base/run_state.h"
 #include "desktop/drawing/program_style.h"
 #include "desktop/run/held_input.h"
+#include "desktop/run/key_rules.h"
 
 namespace fundlet {
 
@@ -114,6 +115,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setApplicationVersion(ToQt(App().Version));
   QApplication::setDesktopFileName(ToQt(App().DesktopFile));
   QApplication::setQuitOnLastWindowClosed(false);
+  RunState::Of<KeyRules>();
   auto& held_input = RunState::Of<HeldInput>();
   RunState::Of<ScreenReader>();
   const auto show_enabling = [] {

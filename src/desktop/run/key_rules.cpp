@@ -1,0 +1,72 @@
+#include "desktop/run/key_rules.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+// The way that QTest gives keys in Qt before they reach a widget: first ShortcutOverride, then the
+// shortcuts.
+QT_BEGIN_NAMESPACE
+// NOLINTNEXTLINE(misc-use-internal-linkage)
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
+                                               Qt::KeyboardModifiers modifiers, const QString& text,
+                                               bool repeated, ushort count);
+QT_END_NAMESPACE
+
+namespace fundlet {
+
+namespace {
+
+// Whether a text field would enter the text of a key that is pressed together with Alt or Meta,
+// unless these are how the keyboard types: AltGr is Control and Alt on Windows, and the Option key
+// of a Mac is Alt.
+bool EntersCommand(const QObject& object, const QKeyEvent& key) {
+  const auto* widget = qobject_cast<const QWidget*>(&object);
+  if (widget == nullptr || !widget->testAttribute(Qt::WA_InputMethodEnabled)) return false;
+  Qt::KeyboardModifiers modifiers = key.modifiers();
+#ifdef Q_OS_MACOS
+  modifiers &= ~Qt::AltModifier;
+#elif defined(Q_OS_WIN)
+  if (modifiers.testFlags(Qt::ControlModifier | Qt::AltModifier)) modifiers &= ~Qt::AltModifier;
+#endif
+  return modifiers.testAnyFlags(Qt::AltModifier | Qt::MetaModifier) && !key.text().isEmpty() &&
+         key.text().at(0).isPrint();
+}
+
+// The digit of a key in the digits' row that enters another character, pressed together with
+// Control; 0 for every other key, and for the digit 0.
+int DigitOnShift(const QObject& object, const QKeyEvent& key) {
+#ifdef Q_OS_WIN
+  constexpr quint32 kScanCodeOfZero = 1;
+#else
+  constexpr quint32 kScanCodeOfZero = 9;
+#endif
+  const quint32 digit = key.nativeScanCode() - kScanCodeOfZero;
+  const bool is_digit = key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9;
+  const bool shortcut = object.isWindowType() && key.modifiers() == Qt::ControlModifier;
+  return shortcut && !is_digit && digit <= 9 ? static_cast<int>(digit) : 0;
+}
+
+}  // namespace
+
+bool ChoosesShortcut(QObject& window, const QKeyEvent& key) {
+  return qt_sendShortcutOverrideEvent(&window, key.timestamp(), key.key(), key.modifiers(),
+                                      key.text(), key.isAutoRepeat(), 1);
+}
+
+KeyRules::KeyRules() { QCoreApplication::instance()->installEventFilter(this); }
+
+bool KeyRules::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (EntersCommand(*object, key)) {
+    event->ignore();
+    return true;
+  }
+  const int digit = DigitOnShift(*object, key);
+  const QKeyEvent shortcut(QEvent::KeyPress, Qt::Key_0 + digit, key.modifiers(), QString(),
+                           key.isAutoRepeat());
+  return digit != 0 && ChoosesShortcut(*object, shortcut);
+}
+
+}  // namespace fundlet
