@@ -91,6 +91,7 @@ TEST_F(Registry, FindsControlsAndMenuItemsByNameOnlyAndEachOnce) {
             "The control “Entry” is of another class.");
   EXPECT_EQ(ErrorOf([&] { window_->_AddControl("Sign", std::make_unique<Label>(*window_)); }),
             "The window has a control “Sign” already.");
+  EXPECT_EQ(window_->Content().children().size(), 2);
 }
 
 }  // namespace

@@ -94,6 +94,9 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   EXPECT_EQ(FocusName(), "TextField");
   EXPECT_EQ(enabled(), "");
   for (int i = 0; i < 7; ++i) user::Key(Qt::Key_Right, Qt::ShiftModifier);
+  user::OpenContextMenu();
+  EXPECT_EQ(QApplication::activePopupWidget(), Window().Native().findChild<QMenu*>("EditMenu"));
+  user::Key(Qt::Key_Escape);
   user::Key(Qt::Key_Tab);
   user::Shortcut(Qt::Key_C);
   EXPECT_EQ(enabled(), "EditCopy");

@@ -40,6 +40,10 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
       FocusReporting::keyPressEvent(event);
     }
   }
+  // Qt's own menu shows no shortcuts, and is not offered to screen readers with them.
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    Owner().ShowEditMenu(event->globalPos());
+  }
 
  private:
   static bool MovesCaret(int key) { return (key >= Qt::Key_Home && key <= Qt::Key_PageDown); }
