@@ -80,6 +80,18 @@ TEST_F(Gate, ActivationComesAfterTheHandlerThatOpenedTheDialog) {
     Main().ClearFocus();
     GlobalModule::AlertBox("one");
     ExpectDialog(ByCloseBox());
+TEST_F(Gate, AFaultInAPasteRefusesIt) {
+  Main().StartYearField().Pasting = [](const std::string&,
+                                       std::size_t) -> std::optional<std::string> {
+    throw RuntimeException("No paste.");
+  };
+  QGuiApplication::clipboard()->setText("7");
+  ExpectDialog(ByKey(Qt::Key_Escape));
+  user::Shortcut(Qt::Key_V);
+  EXPECT_EQ(TakeDialogs(), Log{"No paste."});
+  EXPECT_NE(Text("StartYearField"), "7");
+}
+
     GlobalModule::AlertBox("two");
     log_.push_back("end");
   });

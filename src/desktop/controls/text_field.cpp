@@ -86,7 +86,8 @@ TextField::TextField(ControlOwner& owner) : TextControl(owner, new FieldWidget(o
   FieldOf(*this).setFocusPolicy(Qt::StrongFocus);
   FieldOf(*this).Judge = [this](const QString& outcome) -> std::optional<QString> {
     if (!Pasting) return outcome;
-    const std::optional<std::string> entry = Pasting(FromQt(outcome), FieldOf(*this).Limit());
+    std::optional<std::string> entry;
+    Gate().EnterWithin([&] { entry = Pasting(FromQt(outcome), FieldOf(*this).Limit()); });
     return entry ? std::optional(ToQt(*entry)) : std::nullopt;
   };
 }
