@@ -39,6 +39,13 @@ class Hand : public StartedTest {
   }
 };
 
+// What an input method composes in a field, over the whole text that the field has.
+void Compose(const QString& field, const QString& text) {
+  user::Shortcut(Qt::Key_A);
+  QInputMethodEvent composing(text, {});
+  QCoreApplication::sendEvent(&Found(field), &composing);
+}
+
 using Fields = StartedTest;
 
 TEST_F(Fields, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
@@ -261,6 +268,31 @@ TEST_F(Hand, EntersTheDecimalPointByTheKeypadAndNothingWithAltOrTheWindowsKey) {
   EXPECT_EQ(Text("COLAField"), "1.5");
   user::Key(Qt::Key_Comma);
   EXPECT_EQ(Text("COLAField"), "1.5,");
+}
+
+TEST_F(Hand, ACompositionIsPartOfTheTextForEveryCommand) {
+  const std::function<void()> commands[] = {
+      [] { user::Shortcut(Qt::Key_P); },        [] { user::Choose("File", "Remember Parameters"); },
+      [] { user::Click(Found("SaveButton")); }, [] { user::Key(Qt::Key_F1); },
+      [] { user::VisitAnotherWindow(); },
+  };
+  for (const auto& command : commands) {
+    Fill("COLAField", "3.25");
+    Compose("COLAField", "7");
+    command();
+    EXPECT_EQ(ThePlan().COLA, 0.07);
+    user::Activate(Main());
+  }
+  Fill("StartAgeField", "66");
+  Compose("StartAgeField", "70");
+  user::OpenMenu("Edit");
+  EXPECT_EQ(ThePlan().StartAge, 70);
+  user::Key(Qt::Key_Escape);
+  Fill("COLAField", "3.25");
+  Compose("COLAField", "123456");
+  user::OpenMenu("Edit");
+  user::Key(Qt::Key_Escape);
+  EXPECT_EQ(Selected("COLAField"), "3.25");
 }
 
 TEST_F(Hand, ATextWithoutTheFocusIsSeenFromItsHead) {

@@ -69,7 +69,10 @@ void ProgramGate::RunQueue() {
     const Entry entry = std::move(queue_.front());
     queue_.pop_front();
     SetUserCancelled(false);
-    RunGuarded(entry.command, entry.handler);
+    RunGuarded(entry.command, [&] {
+      if (hooks_.entering) hooks_.entering();
+      entry.handler();
+    });
     update_menus = update_menus || entry.updates_menus;
   }
   if (update_menus && !shut_ && hooks_.update_menus) hooks_.update_menus();

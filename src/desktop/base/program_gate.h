@@ -24,6 +24,7 @@ class ProgramGate {
   bool Busy() const { return depth_ > 0; }
   struct Hooks {
     std::function<void(const std::string& message)> report;  // shows a failure; may not be empty
+    std::function<void()> entering;      // before each handler that no other handler causes
     std::function<void()> update_menus;  // the queue is empty, and a handler came through Enter
     std::function<void()> idle;          // the queue is empty
   };

@@ -80,6 +80,8 @@ class Control : public PropertyTarget {
   // Whether the control has lost the focus when its window is no longer the active one: so it is
   // with what can be typed into, and so may hold what the program has not read yet.
   virtual bool LosesFocusWithWindow() const { return false; }
+  // Enters the text that an input method still composes in the control.
+  virtual void CommitComposition() {}
   // Whether the editing command can do something to the control's text now, and its carrying out.
   virtual bool CanEdit(EditCommand /*command*/) const { return false; }
   virtual void Edit(EditCommand /*command*/) {}

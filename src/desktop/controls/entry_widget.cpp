@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QMimeData>
 
@@ -25,7 +26,6 @@ bool Types(const QKeyEvent& event) {
          modifiers != Qt::ControlModifier;
 }
 
-// The shortcuts of the Edit menu, which reach a field as keys. Held down, they act once.
 // The keypad's decimal key, which many keyboard layouts give a comma. Some layouts mark it with no
 // Qt::KeypadModifier, so it is also known by its place on the keyboard.
 bool IsDecimalKey(const QKeyEvent& event) {
@@ -39,6 +39,7 @@ bool IsDecimalKey(const QKeyEvent& event) {
   return of_keypad && (event.text() == "," || event.text() == u"\u066B");
 }
 
+// The shortcuts of the Edit menu, which reach a field as keys. Held down, they act once.
 bool IsHeldCommand(const QKeyEvent& event) {
   const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
   const bool shortcut = letter && event.modifiers().testFlag(Qt::ControlModifier);
@@ -83,6 +84,7 @@ bool EntryWidget::HasRoomFor(const QString& typed) const {
 
 void EntryWidget::Insert(const QString& text) {
   if (isReadOnly()) return;
+  CommitComposition();
   const int begin = hasSelectedText() ? selectionStart() : cursorPosition();
   const QString behind = this->text().mid(begin + selectedText().size());
   QString outcome = this->text().left(begin) + text.trimmed() + behind;
@@ -110,8 +112,6 @@ void EntryWidget::PasteFrom(QClipboard::Mode mode) {
 
 void EntryWidget::keyPressEvent(QKeyEvent* event) {
   if (IsHeldCommand(*event)) return;
-  if (event->matches(QKeySequence::Paste)) {
-    const bool selection = event->key() == Qt::Key_Insert &&
   if (IsDecimalKey(*event)) {
     QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), event->nativeScanCode(),
                     event->nativeVirtualKey(), event->nativeModifiers(), ".", event->isAutoRepeat(),
@@ -119,6 +119,8 @@ void EntryWidget::keyPressEvent(QKeyEvent* event) {
     keyPressEvent(&point);
     return;
   }
+  if (event->matches(QKeySequence::Paste)) {
+    const bool selection = event->key() == Qt::Key_Insert &&
                            event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
     PasteFrom(selection ? QClipboard::Selection : QClipboard::Clipboard);
   } else if (Types(*event) && !HasRoomFor(event->text())) {
@@ -129,11 +131,35 @@ void EntryWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void EntryWidget::inputMethodEvent(QInputMethodEvent* event) {
-  if (!event->commitString().isEmpty() && !HasRoomFor(event->commitString())) {
-    event->setCommitString({});
-    QApplication::beep();
+  if (composed_.isEmpty()) text_before_composition_ = text();
+  const QString committed = event->commitString();
+  if (!committed.isEmpty() && !HasRoomFor(committed)) {
+    RefuseComposition();
+    return;
   }
+  composed_ = event->preeditString();
   QLineEdit::inputMethodEvent(event);
+  if (!committed.isEmpty()) text_before_composition_ = text();
+}
+
+// QLineEdit has deleted the selected text when the composition began.
+void EntryWidget::RefuseComposition() {
+  composed_.clear();
+  QInputMethodEvent end;
+  QLineEdit::inputMethodEvent(&end);
+  if (text() != text_before_composition_) undo();
+  QApplication::beep();
+}
+
+void EntryWidget::CommitComposition() {
+  if (composed_.isEmpty()) return;
+  if (hasFocus()) QGuiApplication::inputMethod()->commit();
+  if (composed_.isEmpty()) return;
+  // Not every input method answers QInputMethod::commit().
+  QInputMethodEvent commit;
+  commit.setCommitString(composed_);
+  inputMethodEvent(&commit);
+  QGuiApplication::inputMethod()->reset();
 }
 
 void EntryWidget::mousePressEvent(QMouseEvent* event) {

@@ -22,6 +22,8 @@ class EntryWidget : public QLineEdit {
   int Limit() const { return limit_; }
   void Write(const QString& text);  // by the program, whatever its length
   void PasteFrom(QClipboard::Mode mode);
+  // Enters the text that an input method still composes, which text() does not contain.
+  void CommitComposition();
 
   // Given the text with what comes from elsewhere in it, the text to stand there instead; nothing
   // refuses it. Without it, whatever fits goes in.
@@ -51,8 +53,11 @@ class EntryWidget : public QLineEdit {
   void Insert(const QString& text);
   void Replace(const QString& text);
   void Changed(const QString& text);
+  void RefuseComposition();
 
   int limit_ = 0;
+  QString composed_;  // by an input method, and not entered yet
+  QString text_before_composition_;
   QString known_text_;         // the last that the user entered or the program wrote
   bool known_change_ = false;  // the change under way is made by one of them
 };

@@ -164,7 +164,10 @@ void TextField::FireGotFocus() {
   if (GotFocus) GotFocus(*this);
 }
 
+void TextField::CommitComposition() { FieldOf(*this).CommitComposition(); }
+
 void TextField::FireLostFocus() {
+  CommitComposition();
   if (LostFocus) LostFocus(*this);
   FieldOf(*this).setCursorPosition(0);
 }

@@ -43,6 +43,7 @@ class TextField : public TextControl {
   void FireGotFocus() override;
   void FireLostFocus() override;
   bool LosesFocusWithWindow() const override { return true; }
+  void CommitComposition() override;
   bool CanEdit(EditCommand command) const override;
   void Edit(EditCommand command) override;
 

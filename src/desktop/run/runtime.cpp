@@ -118,10 +118,14 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   RunState::Of<KeyRules>();
   auto& held_input = RunState::Of<HeldInput>();
   RunState::Of<ScreenReader>();
+  const auto commit_composition = [] {
+    if (const Window* front = Window::Front(); front != nullptr) front->CommitComposition();
+  };
   const auto show_enabling = [] {
     if (Window* front = Window::Front(); front != nullptr) front->EnableMenuItems();
   };
-  Gate().SetHooks({App().Report, show_enabling, [&held_input] { held_input.ScheduleReplay(); }});
+  Gate().SetHooks({App().Report, commit_composition, show_enabling,
+                   [&held_input] { held_input.ScheduleReplay(); }});
   Gate().Enter("Start", late);
 }
 

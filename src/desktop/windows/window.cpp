@@ -248,6 +248,10 @@ void Window::FocusWent(Control& control) {
   Gate().EnterWithin([&] { control.FireLostFocus(); });
 }
 
+void Window::CommitComposition() const {
+  if (focused_ != nullptr) focused_->CommitComposition();
+}
+
 bool Window::HasHandler(const MenuItem& item) const {
   if (!item.AutoEnable) return false;
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return true;

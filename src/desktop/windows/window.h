@@ -87,6 +87,8 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   // Shows a dialog over the window, or by itself where that is null, and returns when it has been
   // answered. The window is activated once the handler that called this has returned.
   static void RunDialog(QDialog& dialog, Window* window);
+  // Enters the text that an input method still composes in the control that has the focus.
+  void CommitComposition() const;
   // The pass that decides which menu items can be chosen now.
   void EnableMenuItems();
 
