@@ -29,6 +29,7 @@ double InitialFundlet(const Plan& plan) { return plan.StartFundlet; }
 
 enum class Fails { Below, Above, AtOrAbove };
 
+// The optional column is the last one. NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct Rule {
   FocusCode field;
   Fails fails;
