@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QIcon>
-#include <QMessageBox>
 
+#include "desktop/dialogs/message_box.h"
 #include "desktop/windows/native_window.h"
 #include "desktop/windows/window.h"
 
@@ -20,13 +20,11 @@ constexpr int kTextWidth = 160;
 void ShowAboutBox() {
   Window* window = Window::Front();
   const QString name = QApplication::applicationName();
-  QMessageBox box(window != nullptr ? &window->Native() : nullptr);
-  box.setTextFormat(Qt::PlainText);
+  MessageBox box(window != nullptr ? &window->Native() : nullptr, QMessageBox::NoIcon, name);
   box.setWindowTitle("About " + name);
-  box.setText(name);
   box.setInformativeText("Version " + QApplication::applicationVersion());
   box.setIconPixmap(QApplication::windowIcon().pixmap(kPictureSize));
-  box.addButton(QMessageBox::Ok);
+  box.AddOnlyButton();
   // Wide enough for the title to be read.
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   if (grid != nullptr) grid->setColumnMinimumWidth(grid->columnCount() - 1, kTextWidth);

@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
 #include <QWindow>
 
 #include "desktop/base/run_state.h"
@@ -49,6 +50,11 @@ void ModalDialog::Run(QDialog& dialog) {
   dialog.raise();
   dialog.activateWindow();
   loop.exec();
+}
+
+QSize ModalDialog::LargestSize(const QWidget& dialog) {
+  constexpr QSize kFrame(4, 40);  // at least that of every desktop
+  return dialog.screen()->availableSize() - kFrame;
 }
 
 bool ModalDialog::IsOpen() { return !OpenDialogs().empty(); }

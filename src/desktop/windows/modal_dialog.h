@@ -3,6 +3,7 @@
 class QDialog;
 class QEvent;
 class QObject;
+class QSize;
 class QWidget;
 
 namespace fundlet {
@@ -14,6 +15,9 @@ class ModalDialog {
  public:
   // Shows the dialog, which belongs to its parentWidget, and returns when it has been answered.
   static void Run(QDialog& dialog);
+
+  // The largest size that a dialog may have on its screen, without the desktop's frame.
+  static QSize LargestSize(const QWidget& dialog);
 
   static bool IsOpen();
   // Whether input to the object has to wait for a dialog; then the dialog is brought to the front.

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QMessageBox>
+
+namespace fundlet {
+
+// A box with a plain text, titled with the program's name. A text too high for the screen loses its
+// middle, and is shown whole in a field that scrolls.
+class MessageBox : public QMessageBox {
+ public:
+  MessageBox(QWidget* parent, Icon icon, const QString& text);
+
+  // Adds the only button: Return, Escape and the close box press it, too.
+  void AddOnlyButton(const QString& caption = "OK");
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void AddFieldWithWholeText();
+};
+
+}  // namespace fundlet
