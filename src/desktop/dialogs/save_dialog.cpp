@@ -1,13 +1,18 @@
 #include "desktop/dialogs/save_dialog.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QListView>
+#include <QPushButton>
 #include <QStandardPaths>
 
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
+#include "desktop/dialogs/message_box.h"
+#include "desktop/dialogs/typed_path.h"
 #include "desktop/windows/modal_dialog.h"
 #include "desktop/windows/native_window.h"
 #include "desktop/windows/window.h"
@@ -28,31 +33,108 @@ QString StartFolder() {
   return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
-bool MayReplace(QWidget& asking, const QString& path) {
-  QMessageBox question(&asking);
-  question.setTextFormat(Qt::PlainText);
-  question.setWindowTitle("Save");
-  question.setIcon(QMessageBox::Warning);
-  question.setText(QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
-  question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-  question.setDefaultButton(QMessageBox::No);
-  ModalDialog::Run(question);
-  asking.activateWindow();
-  return question.result() == QMessageBox::Yes;
-}
-
-// Qt's own question about a file that is there already would keep the windows beneath from
-// being closed.
 class SaveWidget : public QFileDialog {
  public:
-  using QFileDialog::QFileDialog;
+  SaveWidget(QWidget* parent, const QString& filter, const QString& proposed_name)
+      : QFileDialog(parent, "Save", StartFolder(), filter), proposed_name_(proposed_name) {
+    setAcceptMode(AcceptSave);
+#ifdef Q_OS_LINUX
+    UseQtsDialog();
+#endif
+    selectFile(proposed_name);
+  }
+
+  // The file that has been chosen.
+  QString Path() const { return UsesQtsDialog() ? path_ : selectedFiles().value(0); }
 
  protected:
+  // Qt reads a name by what its list has read of the folder by then, and may so take another file.
   void accept() override {
-    const QString path = selectedFiles().value(0);
-    const bool asks = testOption(DontConfirmOverwrite) && QFileInfo(path).isFile();
-    if (!asks || MayReplace(*this, path)) QFileDialog::accept();
+    if (!UsesQtsDialog()) return QFileDialog::accept();
+    const TypedPath typed = ReadTypedPath(name_->text(), directory().path());
+    if (const QString folder = FolderInList(); !folder.isEmpty()) {
+      Open(folder);
+    } else if (typed.kind == TypedPath::Kind::Folder) {
+      Open(typed.path);
+    } else if (typed.kind == TypedPath::Kind::Refused) {
+      Refuse(typed.reason);
+    } else if (MayWrite(typed.path)) {
+      path_ = typed.path;
+      QDialog::accept();
+    }
   }
+
+  // Qt disables Save while its list does not know the folder of the name.
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (object == save_ && event->type() == QEvent::EnabledChange) save_->setEnabled(true);
+    return QFileDialog::eventFilter(object, event);
+  }
+
+ private:
+  void UseQtsDialog() {
+    setOption(DontUseNativeDialog);
+    name_ = findChild<QLineEdit*>("fileNameEdit");
+    list_ = findChild<QListView*>("listView");
+    save_ = findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Save);
+    // The list that pops up beneath a name being typed takes the keyboard from it and gives it
+    // back; on Wayland a letter typed meanwhile is lost.
+    name_->setCompleter(nullptr);
+    // Qt would select in the list what it takes the name for.
+    disconnect(name_, &QLineEdit::textChanged, this, nullptr);
+    connect(name_, &QLineEdit::textEdited, list_->selectionModel(),
+            &QItemSelectionModel::clearSelection);
+    save_->installEventFilter(this);
+    save_->setEnabled(true);
+    resize(sizeHint().boundedTo(ModalDialog::LargestSize(*this)));
+  }
+  bool UsesQtsDialog() const { return testOption(DontUseNativeDialog); }
+
+  // The folder selected in the list when Save is clicked, which then says Open; empty for none.
+  QString FolderInList() const {
+    if (name_->hasFocus()) return {};
+    const QModelIndex selected = list_->selectionModel()->selectedRows().value(0);
+    const QString path = selected.data(QFileSystemModel::FilePathRole).toString();
+    return QFileInfo(path).isDir() ? path : QString();
+  }
+
+  void Open(const QString& folder) {
+    setDirectory(folder);
+    name_->setText(proposed_name_);
+    name_->selectAll();
+    name_->setFocus();
+  }
+
+  void Refuse(const QString& reason) {
+    MessageBox refusal(this, QMessageBox::Warning, reason);
+    refusal.AddOnlyButton();
+    RunOver(refusal);
+    name_->setFocus();
+  }
+
+  // Qt's own question about a file that exists would keep the windows beneath from being closed.
+  bool MayWrite(const QString& path) {
+    if (!QFileInfo(path).isFile()) return true;
+    MessageBox question(
+        this, QMessageBox::Warning,
+        QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
+    question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    question.setDefaultButton(QMessageBox::No);
+    RunOver(question);
+    // The dialog may have been closed after the answer was given.
+    return question.result() == QMessageBox::Yes && isVisible();
+  }
+
+  void RunOver(MessageBox& box) {
+    box.setWindowTitle(windowTitle());
+    ModalDialog::Run(box);
+    activateWindow();
+  }
+
+  QString proposed_name_;
+  QString path_;
+  QLineEdit* name_ = nullptr;    // null where the platform's own dialog is used
+  QListView* list_ = nullptr;    // likewise
+  QPushButton* save_ = nullptr;  // likewise
 };
 
 }  // namespace
@@ -60,22 +142,13 @@ class SaveWidget : public QFileDialog {
 std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
                                             const std::string& proposed_name) {
   Window* window = Window::Front();
-  SaveWidget dialog(window != nullptr ? &window->Native() : nullptr, "Save", StartFolder(),
-                    ToQt(filter));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-#ifdef Q_OS_LINUX
-  dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
-#endif
-  // The list that pops up beneath a name being typed takes the keyboard from it and gives it back;
-  // on Wayland a letter typed meanwhile is lost.
-  if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit")) name->setCompleter(nullptr);
-  dialog.selectFile(ToQt(proposed_name));
+  SaveWidget dialog(window != nullptr ? &window->Native() : nullptr, ToQt(filter),
+                    ToQt(proposed_name));
   Window::RunDialog(dialog, window);
-  const QString path = dialog.selectedFiles().value(0);
+  const QString path = dialog.Path();
   if (dialog.result() != QDialog::Accepted || path.isEmpty()) return std::nullopt;
   RunState::Of<SaveFolder>().path = QFileInfo(path).absolutePath();
-  const QByteArray name = path.toUtf8();
-  return FolderItem(std::u8string(name.begin(), name.end()));
+  return FolderItem(ToPath(path));
 }
 
 }  // namespace fundlet

@@ -1,0 +1,255 @@
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QPushButton>
+#include <QScreen>
+#include <QTreeView>
+
+#include "tests/ui/window_fixture.h"
+
+namespace fundlet {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Texts = std::vector<std::string>;
+
+const char* const kProposed = "Draw Schedule.txt";
+
+QLineEdit& NameIn(const QWidget& dialog) { return *dialog.findChild<QLineEdit*>("fileNameEdit"); }
+
+void ClickSave(const QWidget& dialog) {
+  user::Click(*dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save));
+}
+
+void ByYes(QWidget& question) {
+  QAbstractButton* yes = static_cast<QMessageBox&>(question).button(QMessageBox::Yes);
+  ASSERT_NE(yes, nullptr) << "the dialog is no question";
+  user::Click(*yes);
+}
+
+std::string QuestionAbout(const fs::path& file) {
+  return file.filename().string() + " already exists.\nDo you want to replace it?";
+}
+
+// The dialog starts in the folder Documents. In it, above it, beneath it and beside it are folders
+// with a file "old" each, and links to some of them.
+class SaveDialog : public FundletTest {
+ protected:
+  void StartAmongFiles() {
+    MakeFiles();
+    Start();
+    Calculate();
+  }
+
+  void MakeFiles() const {
+    for (const char* folder : {".", "Documents", "Documents/sub", "beside"}) {
+      fs::create_directories(folder_.Path() / folder);
+      folder_.Write((fs::path(folder) / "old").string(), "old");
+    }
+    for (const auto& [link, target] :
+         {std::pair("link", "../beside"), {"to old", "sub/old"}, {"lost", "nowhere/file"}}) {
+      fs::remove(folder_.Path() / "Documents" / link);
+      fs::create_symlink(target, folder_.Path() / "Documents" / link);
+    }
+  }
+
+  // The text with "@" replaced by the folder of all these files.
+  std::string Absolute(const std::string& text) const {
+    return QString::fromStdString(text)
+        .replace("@", QString::fromStdString(folder_.Path()))
+        .toStdString();
+  }
+
+  // Types the name in the dialog key by key; presses Return or clicks Save.
+  void Enter(QWidget& dialog, const std::string& name, bool by_mouse) const {
+    user::Replace(Absolute(name));
+    if (by_mouse) {
+      ClickSave(dialog);
+    } else {
+      user::Key(Qt::Key_Return);
+    }
+  }
+
+  // Saves under that name, and answers the question with Yes where one is expected.
+  void Save(const std::string& name, bool by_mouse, bool asks = false) {
+    ExpectDialog([=, this](QWidget& dialog) {
+      if (asks) ExpectDialog(ByYes);
+      Enter(dialog, name, by_mouse);
+      if (!dialog.isVisible()) return;
+      ADD_FAILURE() << "the dialog stayed";
+      ForgetExpected();
+      dialog.close();
+    });
+    user::Shortcut(Qt::Key_S);
+  }
+
+  // The files that hold a schedule; they are removed.
+  Texts TakeSchedules() const {
+    Texts found;
+    for (const auto& entry : fs::recursive_directory_iterator(folder_.Path())) {
+      const std::string path = fs::relative(entry.path(), folder_.Path());
+      if (entry.is_symlink() || entry.is_directory()) continue;
+      if (folder_.Read(path).find("Age on") == std::string::npos) continue;
+      found.push_back(path);
+    }
+    for (const std::string& path : found) fs::remove(folder_.Path() / path);
+    return found;
+  }
+};
+
+TEST_F(SaveDialog, WritesTheFileThatIsTypedAtTheFirstSaveOfARunAndLater) {
+  const struct {
+    const char* typed;
+    const char* written;
+    bool asks = false;
+  } rows[] = {
+      {"new", "Documents/new"},
+      {"old", "Documents/old", true},
+      {"./old", "Documents/old", true},
+      {"sub/old", "Documents/sub/old", true},
+      {"sub/new", "Documents/sub/new"},
+      {"../old", "old", true},
+      {"../new", "new"},
+      {"../beside/old", "beside/old", true},
+      {"~/old", "old", true},
+      {"@/Documents/old", "Documents/old", true},
+      {"@/beside//old", "beside/old", true},
+      {"@/new", "new"},
+      {"link/old", "beside/old", true},
+      {"link/../old", "Documents/old", true},
+      {"to old", "Documents/sub/old", true},
+      {"a \"b\" c.txt", "Documents/a \"b\" c.txt"},
+      {" new ", "Documents/ new "},
+      {":new", "Documents/:new"},
+      {"~new", "Documents/~new"},
+  };
+  for (const bool later : {false, true}) {
+    for (const auto& row : rows) {
+      SCOPED_TRACE(row.typed + std::string(later ? ", later" : ""));
+      if (!later || &row == rows) StartAmongFiles();
+      MakeFiles();
+      if (later) Save("@/Documents/first", false);
+      TakeSchedules();
+      TakeDialogs();
+      Texts shown = {"Save"};
+      if (row.asks) shown.push_back(QuestionAbout(row.typed));
+      Save(row.typed, later, row.asks);
+      EXPECT_EQ(TakeDialogs(), shown);
+      EXPECT_EQ(TakeSchedules(), Texts{row.written});
+      if (!later) End();
+    }
+  }
+}
+
+TEST_F(SaveDialog, OpensAFolderThatIsTypedOrSelectedAndProposesTheNameThere) {
+  StartAmongFiles();
+  ExpectDialog([this](QWidget& dialog) {
+    const auto& files = static_cast<QFileDialog&>(dialog);
+    const std::pair<const char*, const char*> rows[] = {
+        {"sub", "@/Documents/sub"},     {"..", "@/Documents"},        {"../beside/", "@/beside"},
+        {"~/Documents", "@/Documents"}, {"link", "@/Documents/link"}, {"//", "/"},
+    };
+    for (const auto& [typed, folder] : rows) {
+      Enter(dialog, typed, false);
+      EXPECT_EQ(files.directory().path().toStdString(), Absolute(folder));
+      EXPECT_EQ(NameIn(dialog).selectedText(), kProposed);
+    }
+    dialog.close();
+  });
+  user::Shortcut(Qt::Key_S);
+  EXPECT_EQ(TakeSchedules(), Texts());
+}
+
+TEST_F(SaveDialog, RefusesWhatIsNoFileAndKeepsWhatWasTyped) {
+  StartAmongFiles();
+  const std::pair<std::string, std::string> rows[] = {
+      {"", "Type a name for the file."},
+      {"  ", "Type a name for the file."},
+      {".", "Type a name for the file."},
+      {"@/Documents/", "Type a name for the file."},
+      {"gone/", "There is no folder “@/Documents/gone”. Choose another folder."},
+      {"gone/new", "There is no folder “@/Documents/gone”. Choose another folder."},
+      {"~root/new", "There is no folder “@/Documents/~root”. Choose another folder."},
+      {"old/", "“@/Documents/old” is not a folder. Choose another folder."},
+      {"old/new", "“@/Documents/old” is not a folder. Choose another folder."},
+      {"a\nb", "A file name cannot contain line breaks or tabs. Type the name without them."},
+  };
+  ExpectDialog([&](QWidget& dialog) {
+    TakeDialogs();
+    for (const auto& [typed, refusal] : rows) {
+      NameIn(dialog).setText(QString::fromStdString(Absolute(typed)));
+      for (const bool by_mouse : {false, true}) {
+        ExpectDialog(ByKey(Qt::Key_Return));
+        if (by_mouse)
+          ClickSave(dialog);
+        else
+          user::Key(Qt::Key_Return);
+        EXPECT_EQ(TakeDialogs(), Texts{Absolute(refusal)});
+        EXPECT_EQ(FocusName(), "fileNameEdit");
+        EXPECT_EQ(NameIn(dialog).text().toStdString(), Absolute(typed));
+      }
+    }
+    dialog.close();
+  });
+  user::Shortcut(Qt::Key_S);
+  EXPECT_EQ(TakeSchedules(), Texts());
+}
+
+TEST_F(SaveDialog, TakesTheFileOrFolderThatIsSelectedInTheList) {
+  StartAmongFiles();
+  ExpectDialog([this](QWidget& dialog) {
+    auto& list = *dialog.findChild<QTreeView*>("treeView");
+    const auto select = [&](const char* name) {
+      const auto in_list = [&] {
+        return list.model()->match(list.model()->index(0, 0, list.rootIndex()), Qt::DisplayRole,
+                                   name);
+      };
+      while (in_list().isEmpty()) user::Settle();
+      list.setFocus();
+      list.selectionModel()->select(
+          in_list().front(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    };
+    select("sub");
+    ClickSave(dialog);
+    select("old");
+    ExpectDialog(ByYes);
+    ClickSave(dialog);
+  });
+  user::Shortcut(Qt::Key_S);
+  EXPECT_EQ(TakeSchedules(), Texts{"Documents/sub/old"});
+}
+
+TEST_F(SaveDialog, WritesNothingOnceItIsClosed) {
+  StartAmongFiles();
+  ExpectDialog([this](QWidget& dialog) {
+    ExpectDialog([&](QWidget& question) {
+      QTest::mouseClick(static_cast<QMessageBox&>(question).button(QMessageBox::Yes),
+                        Qt::LeftButton);
+      dialog.close();
+    });
+    Enter(dialog, "old", false);
+  });
+  user::Shortcut(Qt::Key_S);
+  EXPECT_EQ(TakeSchedules(), Texts());
+}
+
+TEST_F(SaveDialog, AMessageAboutALongPathFitsTheScreenAndKeepsItsReason) {
+  StartAmongFiles();
+  const QString path = QString("/x").repeated(2500);
+  ExpectDialog([&](QWidget& dialog) {
+    ExpectDialog([&](QWidget& message) {
+      EXPECT_LT(message.height(), message.screen()->availableSize().height());
+      const QString text = static_cast<QMessageBox&>(message).text();
+      EXPECT_TRUE(text.startsWith("“Save Schedule”") && text.endsWith("too long."))
+          << text.toStdString();
+      EXPECT_TRUE(message.findChild<QPlainTextEdit*>()->toPlainText().contains(path));
+      message.close();
+    });
+    NameIn(dialog).setText(path);
+    ClickSave(dialog);
+  });
+  user::Shortcut(Qt::Key_S);
+}
+
+}  // namespace
+}  // namespace fundlet
