@@ -49,6 +49,7 @@ struct Pasted {
   std::string exponent;
   bool currency = false;
   bool percent = false;
+  bool point_may_group = false;  // "1.234" is a thousand and more where points group digits
 
   std::string Entry() const { return sign + whole + decimals + exponent; }
 };
@@ -78,6 +79,8 @@ std::optional<Pasted> Parsed(std::string_view text) {
   Take(text, kBlanks);
   if (!text.empty()) return std::nullopt;
   if (pasted.sign == "+") pasted.sign.clear();
+  pasted.point_may_group = !pasted.whole.empty() && pasted.whole.size() <= 3 &&
+                           pasted.whole.front() != '0' && pasted.decimals.size() == 4;
   const bool all_zero = pasted.decimals.find_first_not_of(".0") == std::string::npos;
   if (all_zero && !pasted.whole.empty()) pasted.decimals.clear();
   return pasted;
@@ -86,6 +89,7 @@ std::optional<Pasted> Parsed(std::string_view text) {
 bool Suits(const Pasted& pasted, const Parameter& parameter) {
   const bool commas = pasted.whole.find(',') != std::string::npos;
   if ((commas || pasted.currency) && parameter.money == nullptr) return false;
+  if (pasted.point_may_group && parameter.money != nullptr) return false;
   if (pasted.percent && parameter.rate == nullptr) return false;
   return parameter.whole == nullptr || (pasted.decimals.empty() && pasted.exponent.empty());
 }

@@ -19,7 +19,7 @@ namespace fundlet {
 //
 // nullopt if the text is anything else than one such number, if the entry does not fit, or if the
 // field would read it as another number: commas outside money, decimals or an exponent for a whole
-// number.
+// number, and for money a point that may separate thousands, as in "1.234".
 std::optional<std::string> PastedEntry(FocusCode field, std::string_view text, std::size_t limit);
 
 }  // namespace fundlet

@@ -56,6 +56,8 @@ TEST(PastedEntry, IsRefusedWhereTheFieldWouldReadAnotherNumberThanTheTextSays) {
         "1 234,567",
         "0,123",
         "1.234.567",
+        "1.234",
+        "100.000 €",
         "1.000,50",
         "1.234 567",
         "1,000\n200",
