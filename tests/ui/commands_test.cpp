@@ -116,7 +116,7 @@ TEST_F(Commands, TheLifeExpectancyIsThatOfTheAgeBeingTyped) {
 
 TEST_F(Commands, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
   const auto able = [](const char* item) {
-    Main().EnableMenuItems();
+    Main().UpdateMenuItems();
     return Main().MenuBar()._Lookup(item).Enabled();
   };
   Fill("StartAgeField", "71");

@@ -85,7 +85,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   auto& area = Found<QPlainTextEdit>("TextField");
   const auto enabled = [] {
     std::string names;
-    Window().EnableMenuItems();
+    Window().UpdateMenuItems();
     Window().MenuBar().ForEach([&](MenuItem& item) {
       if (item.Enabled() && item.Name.starts_with("Edit")) names += item.Name;
     });
@@ -107,7 +107,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   EXPECT_EQ(area.textCursor().selectedText(), "");
   user::Shortcut(Qt::Key_A);
   user::Activate(Main());
-  Window().EnableMenuItems();
+  Window().UpdateMenuItems();
   Window().Native().findChild<QAction*>("EditCopy")->trigger();
   EXPECT_EQ(QGuiApplication::clipboard()->text().left(8).toStdString(), "Fundlet\n")
       << "a desktop may let a menu be chosen from before its window has become the active one";

@@ -80,7 +80,7 @@ class RandomWalk : public StartedTest {
     ASSERT_EQ(VisibleWindows("Fundlet Help"), GlobalModule::HelpShowing ? 1 : 0);
     ASSERT_EQ(Main().PrintButton().Enabled(), plan.OKtoPrint);
     if (!HelpInFront()) {
-      Main().EnableMenuItems();
+      Main().UpdateMenuItems();
       ASSERT_EQ(Main().FileSave().Enabled(), plan.OKtoPrint);
     }
     ASSERT_FALSE(Main().Windmill().Visible());

@@ -78,7 +78,7 @@ void Control::SetFocus() {
   }
   native_->setFocus(Qt::OtherFocusReason);
   // While the window is not the active one, Qt only notes where the focus is to be.
-  owner_.FocusCame(*this);
+  owner_.OnFocusGained(*this);
 }
 
 void Control::SetName(std::string_view name) {
@@ -90,7 +90,7 @@ void Control::SetTabIndex(std::int64_t index) { tab_index_ = static_cast<int>(in
 
 std::string Control::Described() const { return "control “" + name_ + "”"; }
 
-const std::array<PropertyRow, 12> Control::kPlaceRows = {{
+const std::array<PropertyRow, 12> Control::kCommonRows = {{
     {"TabIndex", 0, kThrough<&Control::SetTabIndex>},
     {"TabPanelIndex", 0},
     {"LockBottom", false},
@@ -114,7 +114,7 @@ PropertyTable ShapeControl::Properties() const {
                                       {"InitialParent", ""},
                                       {"TabStop", true},
                                   }),
-                                  kPlaceRows);
+                                  kCommonRows);
   return rows;
 }
 
@@ -166,7 +166,7 @@ void TextControl::FitText() {
   font.setBold(bold_);
   font.setItalic(italic_);
   font.setUnderline(underline_);
-  const QFont fitted = NarrowedToFit(font, ToQt(WidestText()), TextRoom());
+  const QFont fitted = NarrowedToFit(font, ToQt(WidestText()), WidthForText());
   if (fitted != Native()->font()) Native()->setFont(fitted);
 }
 
@@ -179,7 +179,7 @@ const std::array<PropertyRow, 6> TextControl::kFontRows = {{
     {"TextFont", "System", kThrough<&TextControl::SetTextFont>},
 }};
 
-const std::array<PropertyRow, 3> TextControl::kDataRows = {{
+const std::array<PropertyRow, 3> TextControl::kDataBindingRows = {{
     {"InitialParent", ""},
     {"DataField", ""},
     {"DataSource", ""},

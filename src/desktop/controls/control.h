@@ -20,13 +20,11 @@ class ControlOwner {
   virtual QWidget& Content() const = 0;  // where the controls stand
   virtual Control* Focused() const = 0;
   // The focus has come to a control, or gone from it, for good and not for the time of a menu.
-  virtual void FocusCame(Control& control) = 0;
-  virtual void FocusWent(Control& control) = 0;
-  // The window is no longer the active one.
-  virtual void Deactivated() = 0;
+  virtual void OnFocusGained(Control& control) = 0;
+  virtual void OnFocusLost(Control& control) = 0;
   // Presses the default or the cancel button where the key means that, but not for a key that is
   // held down. True where it means one of them.
-  virtual bool HandleKey(const QKeyEvent& event) = 0;
+  virtual bool PressButtonFor(const QKeyEvent& event) = 0;
   // Shows the menu of the editing commands as a context menu; the place is on the screen.
   virtual void ShowEditMenu(const QPoint& place) = 0;
 
@@ -88,7 +86,7 @@ class Control : public PropertyTarget {
 
  protected:
   // The rows with which the table of every class of controls ends, but for single ones.
-  static const std::array<PropertyRow, 12> kPlaceRows;
+  static const std::array<PropertyRow, 12> kCommonRows;
 
   Control(ControlOwner& owner, QWidget* native);
   std::string Described() const override;
@@ -132,7 +130,7 @@ class TextControl : public Control {
  protected:
   // Rows that the tables of controls with a text have in common.
   static const std::array<PropertyRow, 6> kFontRows;
-  static const std::array<PropertyRow, 3> kDataRows;
+  static const std::array<PropertyRow, 3> kDataBindingRows;
 
   using Control::Control;
   void SetApplied() override { FitText(); }
@@ -140,7 +138,7 @@ class TextControl : public Control {
 
   // The widest text that must be seen whole, and the pixels it has.
   virtual std::string WidestText() const { return {}; }
-  virtual int TextRoom() const { return Width(); }
+  virtual int WidthForText() const { return Width(); }
 
  private:
   std::string family_ = "System";

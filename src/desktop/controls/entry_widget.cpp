@@ -55,25 +55,25 @@ bool TakesDrop(const QLineEdit& field, const QDropEvent& event) {
 
 EntryWidget::EntryWidget() {
   setMaxLength(32767);
-  connect(this, &QLineEdit::textEdited, this, [this] { known_change_ = true; });
+  connect(this, &QLineEdit::textEdited, this, [this] { change_accepted_ = true; });
   connect(this, &QLineEdit::textChanged, this, &EntryWidget::Changed);
 }
 
 void EntryWidget::Write(const QString& text) {
-  known_change_ = true;
+  change_accepted_ = true;
   setText(text);
-  known_change_ = false;
+  change_accepted_ = false;
   // Without the focus, the head of the text is to be seen where there is no room for all of it.
   if (!hasFocus()) setCursorPosition(0);
 }
 
 // An assistive technology sets the text without Qt's taking that for the user's doing.
 void EntryWidget::Changed(const QString& text) {
-  const bool fits = limit_ == 0 || Length(text) <= limit_ || text.size() < known_text_.size();
-  if (std::exchange(known_change_, false) || fits) {
-    known_text_ = text;
+  const bool fits = limit_ == 0 || Length(text) <= limit_ || text.size() < accepted_text_.size();
+  if (std::exchange(change_accepted_, false) || fits) {
+    accepted_text_ = text;
   } else {
-    Write(QString(known_text_));
+    Write(QString(accepted_text_));
     Replace(text);
   }
 }
@@ -88,7 +88,7 @@ void EntryWidget::Insert(const QString& text) {
   const int begin = hasSelectedText() ? selectionStart() : cursorPosition();
   const QString behind = this->text().mid(begin + selectedText().size());
   QString outcome = this->text().left(begin) + text.trimmed() + behind;
-  const std::optional<QString> entry = Judge ? Judge(outcome) : outcome;
+  const std::optional<QString> entry = FilterInsertion ? FilterInsertion(outcome) : outcome;
   const bool changes = entry && !text.trimmed().isEmpty();
   if (!changes || (limit_ > 0 && Length(*entry) > limit_)) {
     QApplication::beep();

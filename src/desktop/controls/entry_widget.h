@@ -27,7 +27,7 @@ class EntryWidget : public QLineEdit {
 
   // Given the text with what comes from elsewhere in it, the text to stand there instead; nothing
   // refuses it. Without it, whatever fits goes in.
-  std::function<std::optional<QString>(const QString& outcome)> Judge;
+  std::function<std::optional<QString>(const QString& outcome)> FilterInsertion;
 
  protected:
   // Before and after a text from elsewhere takes the place of the whole text, by an action that
@@ -58,8 +58,8 @@ class EntryWidget : public QLineEdit {
   int limit_ = 0;
   QString composed_;  // by an input method, and not entered yet
   QString text_before_composition_;
-  QString known_text_;         // the last that the user entered or the program wrote
-  bool known_change_ = false;  // the change under way is made by one of them
+  QString accepted_text_;         // the last that the user entered or the program wrote
+  bool change_accepted_ = false;  // the change under way is made by one of them
 };
 
 }  // namespace fundlet

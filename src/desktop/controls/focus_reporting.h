@@ -28,18 +28,15 @@ class FocusReporting : public Widget {
     // decides where the focus is to be.
     const bool chosen_by_qt = event->reason() == Qt::ActiveWindowFocusReason && Gate().Busy() &&
                               owner_.Focused() == nullptr;
-    if (!chosen_by_qt) owner_.FocusCame(*control_);
+    if (!chosen_by_qt) owner_.OnFocusGained(*control_);
   }
 
   void focusOutEvent(QFocusEvent* event) override {
     QFocusEvent for_qt(ForQt(*event));
     Widget::focusOutEvent(&for_qt);
-    if (IsForMenu(*event)) return;
-    if (event->reason() == Qt::ActiveWindowFocusReason) {
-      owner_.Deactivated();
-    } else {
-      owner_.FocusWent(*control_);
-    }
+    const bool with_window = event->reason() == Qt::ActiveWindowFocusReason;
+    const bool keeps_focus = with_window && !control_->LosesFocusWithWindow();
+    if (!IsForMenu(*event) && !keeps_focus) owner_.OnFocusLost(*control_);
   }
 
  private:

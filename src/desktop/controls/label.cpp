@@ -39,7 +39,7 @@ void Label::SetLabelFor(const Control& control) { LabelOf(*this).setBuddy(contro
 
 PropertyTable Label::Properties() const {
   static const auto rows =
-      Joined(kDataRows, kFontRows,
+      Joined(kDataBindingRows, kFontRows,
              std::to_array<PropertyRow>({
                  {"AutoDeactivate", true},
                  {"HelpTag", "", kThrough<&Control::SetHelpTag>},
@@ -52,7 +52,7 @@ PropertyTable Label::Properties() const {
                  {"TextAlign", kLabelAlignment.left, kThrough<&Label::SetTextAlign>},
                  {"Text", "", kThrough<&Label::SetText>},
              }),
-             kPlaceRows, std::to_array<PropertyRow>({{"TabStop", true}}));
+             kCommonRows, std::to_array<PropertyRow>({{"TabStop", true}}));
   return rows;
 }
 

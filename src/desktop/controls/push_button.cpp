@@ -19,7 +19,7 @@ class ButtonWidget : public FocusReporting<QPushButton> {
  protected:
   // Some desktops let Return press the button that has the focus. Here it calculates, everywhere.
   void keyPressEvent(QKeyEvent* event) override {
-    if (!Owner().HandleKey(*event)) {
+    if (!Owner().PressButtonFor(*event)) {
       FocusReporting::keyPressEvent(event);
     }
   }
@@ -59,7 +59,7 @@ void PushButton::SetDefault(bool is_default) {
 
 void PushButton::Press() { ButtonOf(*this).click(); }
 
-int PushButton::TextRoom() const {
+int PushButton::WidthForText() const {
   constexpr int kFrames = 10;
   return Width() - kFrames;
 }
@@ -77,7 +77,7 @@ PropertyTable PushButton::Properties() const {
                                       {"Caption", "", kThrough<&PushButton::SetCaption>},
                                       {"TabStop", true},
                                   }),
-                                  kPlaceRows);
+                                  kCommonRows);
   return rows;
 }
 

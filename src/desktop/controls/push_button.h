@@ -30,7 +30,7 @@ class PushButton : public TextControl {
 
  protected:
   std::string WidestText() const override { return Caption(); }
-  int TextRoom() const override;
+  int WidthForText() const override;
 
  private:
   bool default_ = false;

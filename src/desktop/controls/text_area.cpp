@@ -29,13 +29,13 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (isReadOnly() && NativeKey(*event)) return;
+    if (isReadOnly() && WindowTakesKey(*event)) return;
     const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
     if (MovesCaret(event->key()) && modifiers == Qt::NoModifier) BringCaretIntoView();
     const bool up = event->key() == Qt::Key_Up;
     const bool by_line = up || event->key() == Qt::Key_Down;
     if (isReadOnly() && by_line && modifiers == Qt::NoModifier) {
-      GoOn(up ? -1 : 1);
+      MoveByLines(up ? -1 : 1);
     } else {
       FocusReporting::keyPressEvent(event);
     }
@@ -53,14 +53,14 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
     if (!viewport()->rect().intersects(cursorRect())) PutCursor(cursorForPosition(QPoint(0, 0)));
   }
   // The page moves with the caret, so that each press is seen, and a screen reader reads the line.
-  void GoOn(int lines) {
+  void MoveByLines(int lines) {
     const int first_line = verticalScrollBar()->value() + lines;
     moveCursor(lines > 0 ? QTextCursor::Down : QTextCursor::Up);
     verticalScrollBar()->setValue(first_line);
   }
   // A text that cannot be edited has no use for Return.
-  bool NativeKey(QKeyEvent& event) const {
-    const bool used = Owner().HandleKey(event);
+  bool WindowTakesKey(QKeyEvent& event) const {
+    const bool used = Owner().PressButtonFor(event);
     event.setAccepted(used);
     return used;
   }
@@ -149,7 +149,7 @@ void TextArea::Edit(EditCommand /*command*/) { AreaOf(*this).copy(); }
 
 PropertyTable TextArea::Properties() const {
   static const auto rows =
-      Joined(kDataRows,
+      Joined(kDataBindingRows,
              std::to_array<PropertyRow>({
                  {"AutomaticallyCheckSpelling", true},
                  {"Alignment", 0},
@@ -179,7 +179,7 @@ PropertyTable TextArea::Properties() const {
                  {"Border", true, kThrough<&TextArea::SetBorder>},
                  {"TabStop", true},
              }),
-             kPlaceRows);
+             kCommonRows);
   return rows;
 }
 

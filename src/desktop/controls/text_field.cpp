@@ -25,7 +25,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
   using FocusReporting::FocusReporting;
 
   // The width that a text can have and be seen whole, the caret behind it included.
-  int TextRoom() const {
+  int WidthForText() const {
     QStyleOptionFrame option;
     initStyleOption(&option);
     const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
@@ -46,7 +46,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
   // plan again: so the text is read into it before.
   void Replaced() override {
     if (isActiveWindow()) return;
-    Owner().FocusWent(Attached());
+    Owner().OnFocusLost(Attached());
     activateWindow();
   }
   // Qt's own menu asks the clipboard, whose holder may not answer.
@@ -55,7 +55,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
     Owner().ShowEditMenu(event->globalPos());
   }
   void keyPressEvent(QKeyEvent* event) override {
-    if (ProgramUses(*event) || Owner().HandleKey(*event)) {
+    if (ProgramUses(*event) || Owner().PressButtonFor(*event)) {
       event->accept();
     } else {
       FocusReporting::keyPressEvent(event);
@@ -84,7 +84,7 @@ FieldWidget& FieldOf(const Control& control) {
 TextField::TextField(ControlOwner& owner) : TextControl(owner, new FieldWidget(owner)) {
   FieldOf(*this).AttachTo(*this);
   FieldOf(*this).setFocusPolicy(Qt::StrongFocus);
-  FieldOf(*this).Judge = [this](const QString& outcome) -> std::optional<QString> {
+  FieldOf(*this).FilterInsertion = [this](const QString& outcome) -> std::optional<QString> {
     if (!Pasting) return outcome;
     std::optional<std::string> entry;
     Gate().EnterWithin([&] { entry = Pasting(FromQt(outcome), FieldOf(*this).Limit()); });
@@ -157,7 +157,7 @@ void TextField::SetBackColor(Colour colour) { SetColour(FieldOf(*this), QPalette
 void TextField::SetTextColor(Colour colour) { SetColour(FieldOf(*this), QPalette::Text, colour); }
 void TextField::SetCueText(std::string_view text) { FieldOf(*this).setPlaceholderText(ToQt(text)); }
 
-int TextField::TextRoom() const { return FieldOf(*this).TextRoom(); }
+int TextField::WidthForText() const { return FieldOf(*this).WidthForText(); }
 
 void TextField::FireGotFocus() {
   if (const auto selection = std::exchange(waiting_selection_, std::nullopt)) Select(*selection);
@@ -202,7 +202,7 @@ void TextField::Edit(EditCommand command) {
 
 PropertyTable TextField::Properties() const {
   static const auto rows =
-      Joined(kDataRows,
+      Joined(kDataBindingRows,
              std::to_array<PropertyRow>({
                  {"AutomaticallyCheckSpelling", false},
                  {"Alignment", kFieldAlignment.left, kThrough<&TextField::SetAlignment>},
@@ -227,7 +227,7 @@ PropertyTable TextField::Properties() const {
                  {"Border", true, kThrough<&TextField::SetBorder>},
                  {"TabStop", true},
              }),
-             kPlaceRows);
+             kCommonRows);
   return rows;
 }
 

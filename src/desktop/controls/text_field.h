@@ -51,7 +51,7 @@ class TextField : public TextControl {
 
  protected:
   std::string WidestText() const override;
-  int TextRoom() const override;
+  int WidthForText() const override;
 
  private:
   // A selection made while the field did not have the focus: it is seen when the focus comes.

@@ -21,10 +21,10 @@ namespace {
 // How often a computation lets Qt work. The yields between two looks at the clock take
 // some tenths of a millisecond.
 constexpr qint64 kPumpMilliseconds = 8;
-constexpr int kYieldsPerLook = 20'000;
+constexpr int kYieldsPerTick = 20'000;
 
 // How long a click waits for the activation of its window, which may not come.
-constexpr int kPatienceMilliseconds = 200;
+constexpr int kActivationTimeoutMs = 200;
 
 bool IsUserInput(const QEvent& event) {
   switch (event.type()) {
@@ -69,17 +69,17 @@ bool IsCancelGesture(const QEvent& event) {
 
 HeldInput::HeldInput() {
   QCoreApplication::instance()->installEventFilter(this);
-  patience_.setSingleShot(true);
-  patience_.setInterval(kPatienceMilliseconds);
-  connect(&patience_, &QTimer::timeout, this, &HeldInput::StopAwaiting);
-  SetBackgroundTask(&HeldInput::Look);
+  activation_timer_.setSingleShot(true);
+  activation_timer_.setInterval(kActivationTimeoutMs);
+  connect(&activation_timer_, &QTimer::timeout, this, &HeldInput::StopAwaiting);
+  SetBackgroundTask(&HeldInput::BackgroundTick);
 }
 
 HeldInput::~HeldInput() { SetBackgroundTask(nullptr); }
 
-int HeldInput::Look() {
+int HeldInput::BackgroundTick() {
   RunState::Of<HeldInput>().PumpIfDue();
-  return kYieldsPerLook;
+  return kYieldsPerTick;
 }
 
 void HeldInput::PumpIfDue() {
@@ -105,13 +105,13 @@ bool HeldInput::ComesBeforeActivation(QObject* object, const QEvent& event) cons
 
 void HeldInput::StopAwaiting() {
   awaited_.clear();
-  patience_.stop();
+  activation_timer_.stop();
   ScheduleReplay();
 }
 
 // Where the halves of a repetition reach Qt apart, it takes them for a release and a fresh
 // press. Their times tell: no hand lets go and presses again within one millisecond.
-bool HeldInput::IsUntoldRepeat(QObject* object, const QEvent& event) {
+bool HeldInput::IsUnmarkedRepeat(QObject* object, const QEvent& event) {
   if (!IsKey(event) || !object->isWindowType()) return false;
   const auto& key = static_cast<const QKeyEvent&>(event);
   // A screen reader's side hands keys on without their times.
@@ -122,7 +122,7 @@ bool HeldInput::IsUntoldRepeat(QObject* object, const QEvent& event) {
 }
 
 // A repetition that Qt has not told as one: told now.
-void HeldInput::TellRepeat(QObject* object, QEvent& event) {
+void HeldInput::DeliverAsRepeat(QObject* object, QEvent& event) {
   event.accept();
   if (event.type() != QEvent::KeyPress) return;
   const auto& key = static_cast<const QKeyEvent&>(event);
@@ -137,8 +137,8 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
   // answer. It has to be the program's end too, also while the start waits for that answer.
   if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
   if (!IsUserInput(*event)) return false;
-  if (IsUntoldRepeat(object, *event)) {
-    TellRepeat(object, *event);
+  if (IsUnmarkedRepeat(object, *event)) {
+    DeliverAsRepeat(object, *event);
     return true;
   }
   if (pumping_ && IsCancelGesture(*event)) {
@@ -148,7 +148,7 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
   }
   if (!MustHold() && ComesBeforeActivation(object, *event)) {
     awaited_ = qobject_cast<QWindow*>(object);
-    patience_.start();
+    activation_timer_.start();
   }
   if (MustHold()) return Hold(object, event);
   if (ModalDialog::Blocks(object, *event)) {

@@ -36,10 +36,10 @@ class HeldInput : public QObject {
     std::unique_ptr<QEvent> event;
   };
 
-  static int Look();
+  static int BackgroundTick();
   void PumpIfDue();
-  bool IsUntoldRepeat(QObject* object, const QEvent& event);
-  static void TellRepeat(QObject* object, QEvent& event);
+  bool IsUnmarkedRepeat(QObject* object, const QEvent& event);
+  static void DeliverAsRepeat(QObject* object, QEvent& event);
   bool MustHold() const;
   bool ComesBeforeActivation(QObject* object, const QEvent& event) const;
   void StopAwaiting();
@@ -49,7 +49,7 @@ class HeldInput : public QObject {
 
   std::deque<Held> held_;
   QPointer<QWindow> awaited_;  // the window that a held click activates
-  QTimer patience_;
+  QTimer activation_timer_;
   std::pair<quint32, quint64> last_release_;  // the key, and when
   QElapsedTimer since_pump_;
   bool pumping_ = false;

@@ -122,7 +122,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
     if (const Window* front = Window::Front(); front != nullptr) front->CommitComposition();
   };
   const auto show_enabling = [] {
-    if (Window* front = Window::Front(); front != nullptr) front->EnableMenuItems();
+    if (Window* front = Window::Front(); front != nullptr) front->UpdateMenuItems();
   };
   Gate().SetHooks({App().Report, commit_composition, show_enabling,
                    [&held_input] { held_input.ScheduleReplay(); }});

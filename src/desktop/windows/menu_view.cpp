@@ -30,15 +30,15 @@ QAction::MenuRole RoleOf(const MenuItem& item) {
 
 }  // namespace
 
-MenuView::MenuView(Acts acts, const MenuItem& tree, QMenuBar& bar)
-    : acts_(std::move(acts)), bar_(bar) {
+MenuView::MenuView(Callbacks callbacks, const MenuItem& tree, QMenuBar& bar)
+    : callbacks_(std::move(callbacks)), bar_(bar) {
   for (const auto& item : tree.Children()) {
     if (!item->IsShown()) continue;
     auto* menu = new QMenu('&' + Escaped(item->Text), &bar);
     menu->setObjectName(ToQt(item->Name));
     Fill(*menu, *item);
     bar.addMenu(menu);
-    QObject::connect(menu, &QMenu::aboutToShow, menu, acts_.enable);
+    QObject::connect(menu, &QMenu::aboutToShow, menu, callbacks_.enable);
   }
 }
 
@@ -68,12 +68,13 @@ QAction& MenuView::AddAction(QMenu& menu, MenuItem& item) {
   if (!action.shortcut().isEmpty()) {
     auto* shortcut = new QShortcut(action.shortcut(), bar_.window());
     shortcut->setAutoRepeat(false);
-    QObject::connect(shortcut, &QShortcut::activated, &menu, [this, &item] { acts_.choose(item); });
+    QObject::connect(shortcut, &QShortcut::activated, &menu,
+                     [this, &item] { callbacks_.choose(item); });
   }
   if (item.Edits != EditCommand::None) edit_menu_ = &menu;
   action.setMenuRole(RoleOf(item));
   action.setEnabled(false);
-  QObject::connect(&action, &QAction::triggered, &menu, [this, &item] { acts_.choose(item); });
+  QObject::connect(&action, &QAction::triggered, &menu, [this, &item] { callbacks_.choose(item); });
   return action;
 }
 
@@ -85,7 +86,7 @@ void MenuView::AddMenuTo(QMenu& menu, MenuItem& item) {
   shown_.push_back({&item, submenu->menuAction()});
 }
 
-void MenuView::ShowEnabling() {
+void MenuView::UpdateActions() {
   for (const Shown& shown : shown_) shown.action->setEnabled(shown.item->Enabled());
 }
 

@@ -17,14 +17,14 @@ class MenuItem;
 class MenuView {
  public:
   // What the window does for its menus.
-  struct Acts {
+  struct Callbacks {
     std::function<void()> enable;  // decides which items can be chosen now
     std::function<void(MenuItem&)> choose;
   };
-  MenuView(Acts acts, const MenuItem& tree, QMenuBar& bar);
+  MenuView(Callbacks callbacks, const MenuItem& tree, QMenuBar& bar);
 
   // Shows which items are enabled.
-  void ShowEnabling();
+  void UpdateActions();
   // Shows the menu that has the editing commands as a context menu.
   void ShowEditMenu(const QPoint& place) const;
 
@@ -39,7 +39,7 @@ class MenuView {
   void AddMenuTo(QMenu& menu, MenuItem& item);
   void Fill(QMenu& menu, MenuItem& item);
 
-  Acts acts_;
+  Callbacks callbacks_;
   QMenuBar& bar_;
   std::vector<Shown> shown_;
   QMenu* edit_menu_ = nullptr;

@@ -31,12 +31,12 @@ class ContentWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     constexpr int kRingWidth = 2;
-    const Control* focused = window_.Focused();
-    if (focused == nullptr || !focused->UseFocusRing()) return;
+    const Control* ringed = window_.RingedControl();
+    if (ringed == nullptr) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Highlight), kRingWidth));
-    const QRectF control = focused->Native()->geometry();
+    const QRectF control = ringed->Native()->geometry();
     const double half = kRingWidth / 2.0;
     painter.drawRoundedRect(control.adjusted(-half, -half, half, half), kRingWidth, kRingWidth);
   }
@@ -133,9 +133,9 @@ void NativeWindow::SetHasBackColor(bool painted) {
   centralWidget()->setAutoFillBackground(painted);
 }
 
-void NativeWindow::ShowMenus(const MenuItem& tree, MenuView::Acts acts) {
+void NativeWindow::ShowMenus(const MenuItem& tree, MenuView::Callbacks callbacks) {
   if (!menu_bar_visible_) return;
-  menus_ = std::make_unique<MenuView>(std::move(acts), tree, *menuBar());
+  menus_ = std::make_unique<MenuView>(std::move(callbacks), tree, *menuBar());
   FitToContent();
 }
 

@@ -37,7 +37,7 @@ class NativeWindow : public QMainWindow {
   void SetMenuBarVisible(bool visible) { menu_bar_visible_ = visible; }
 
   // Makes the menus; to be called once the window's set of menus is settled.
-  void ShowMenus(const MenuItem& tree, MenuView::Acts acts);
+  void ShowMenus(const MenuItem& tree, MenuView::Callbacks callbacks);
   MenuView* Menus() const { return menus_.get(); }  // null where the window shows none
   // Shows the window for the first time.
   void ShowFirst();

@@ -115,7 +115,7 @@ void Window::FirstShow() {
   shown_once_ = true;
   Control* first = ApplyTabOrder();
   native_->ShowMenus(MenuBar(),
-                     {[this] { EnableMenuItems(); }, [this](MenuItem& item) { Choose(item); }});
+                     {[this] { UpdateMenuItems(); }, [this](MenuItem& item) { Choose(item); }});
   if (centred_) Centre();
   native_->ShowFirst();
   native_->raise();
@@ -167,7 +167,7 @@ void Window::Close() {
 
 void Window::ClearFocus() {
   if (QWidget* widget = native_->focusWidget(); widget != nullptr) widget->clearFocus();
-  if (focused_ != nullptr) FocusWent(*focused_);
+  if (focused_ != nullptr) OnFocusLost(*focused_);
 }
 
 void Window::Activated() {
@@ -183,7 +183,7 @@ void Window::Activated() {
 }
 
 void Window::Deactivated() {
-  if (focused_ != nullptr && focused_->LosesFocusWithWindow()) FocusWent(*focused_);
+  if (focused_ != nullptr && focused_->LosesFocusWithWindow()) OnFocusLost(*focused_);
 }
 
 void Window::CloseAsked() {
@@ -195,7 +195,7 @@ void Window::Resized() {
   Gate().EnterWithin([this] { Event_Resized(); });
 }
 
-bool Window::HandleKey(const QKeyEvent& event) {
+bool Window::PressButtonFor(const QKeyEvent& event) {
   const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   const bool return_key = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
   if (!plain || (!return_key && event.key() != Qt::Key_Escape)) return false;
@@ -209,13 +209,17 @@ bool Window::HandleKey(const QKeyEvent& event) {
 }
 
 bool Window::KeyPressed(const QKeyEvent& event) {
-  bool used = HandleKey(event);
+  bool used = PressButtonFor(event);
   if (used) return true;
   Gate().EnterWithin([&] {
     const std::string key = KeyText(event);
     used = !key.empty() && Event_KeyDown(key);
   });
   return used;
+}
+
+const Control* Window::RingedControl() const {
+  return focused_ != nullptr && focused_->UseFocusRing() ? focused_ : nullptr;
 }
 
 void Window::ShowEditMenu(const QPoint& place) {
@@ -231,7 +235,7 @@ void Window::RunDialog(QDialog& dialog, Window* window) {
   window->Activated();
 }
 
-void Window::FocusCame(Control& control) {
+void Window::OnFocusGained(Control& control) {
   if (!open_ || focused_ == &control) return;
   Control* before = std::exchange(focused_, &control);
   native_->Content().update();
@@ -241,7 +245,7 @@ void Window::FocusCame(Control& control) {
   });
 }
 
-void Window::FocusWent(Control& control) {
+void Window::OnFocusLost(Control& control) {
   if (!open_ || focused_ != &control) return;
   focused_ = nullptr;
   native_->Content().update();
@@ -266,7 +270,7 @@ Control* Window::EditTarget(EditCommand command) const {
   return found != controls_.end() ? found->get() : nullptr;
 }
 
-void Window::EnableMenuItems() {
+void Window::UpdateMenuItems() {
   // While a message is open, the field may still show what the handler that waits has replaced.
   if (ModalDialog::IsOpen()) return;
   Gate().EnterWithin([this] {
@@ -279,12 +283,12 @@ void Window::EnableMenuItems() {
     });
     Event_EnableMenuItems();
   });
-  if (native_->Menus() != nullptr) native_->Menus()->ShowEnabling();
+  if (native_->Menus() != nullptr) native_->Menus()->UpdateActions();
 }
 
 void Window::Choose(MenuItem& item) {
   if (ModalDialog::IsOpen()) return;
-  EnableMenuItems();
+  UpdateMenuItems();
   if (!item.Enabled()) return;
   Gate().Enter(item.Text, [this, &item] {
     if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) {

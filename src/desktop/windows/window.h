@@ -90,14 +90,13 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   // Enters the text that an input method still composes in the control that has the focus.
   void CommitComposition() const;
   // The pass that decides which menu items can be chosen now.
-  void EnableMenuItems();
+  void UpdateMenuItems();
 
   QWidget& Content() const override;
   Control* Focused() const override { return focused_; }
-  void FocusCame(Control& control) override;
-  void FocusWent(Control& control) override;
-  void Deactivated() override;
-  bool HandleKey(const QKeyEvent& event) override;
+  void OnFocusGained(Control& control) override;
+  void OnFocusLost(Control& control) override;
+  bool PressButtonFor(const QKeyEvent& event) override;
   void ShowEditMenu(const QPoint& place) override;
 
  protected:
@@ -105,9 +104,11 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
 
  private:
   void Activated() override;
+  void Deactivated() override;
   void CloseAsked() override;
   void Resized() override;
   bool KeyPressed(const QKeyEvent& event) override;
+  const Control* RingedControl() const override;
   void FirstShow();
   void Choose(MenuItem& item);  // carries it out, where it can be chosen
   void Centre();

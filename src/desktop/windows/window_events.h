@@ -16,7 +16,7 @@ class WindowEvents {
   virtual void Resized() = 0;  // the content, and not by the program
   // A key that no control has used up. True where it meant something.
   virtual bool KeyPressed(const QKeyEvent& event) = 0;
-  virtual const Control* Focused() const = 0;  // null for none
+  virtual const Control* RingedControl() const = 0;  // to be drawn in a focus ring; null for none
 
  protected:
   ~WindowEvents() = default;
