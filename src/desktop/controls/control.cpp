@@ -12,7 +12,8 @@ namespace fundlet {
 
 namespace {
 
-// Qt wraps no plain text, and a rich one anyhow.
+// Breaks lines at blanks, after at most 80 characters where there is a blank: QToolTip does not
+// wrap plain text, and wraps rich text at a width of its own.
 QString Wrapped(const QString& text) {
   constexpr qsizetype kLineLength = 80;
   QString wrapped = text;
@@ -60,7 +61,7 @@ void Control::SetHelpTag(std::string_view text) {
 }
 
 void Control::Refresh(bool at_once) {
-  // What a hidden control has left is the parent's to paint over.
+  // A hidden widget is not repainted; its parent repaints the area that it covered.
   const bool hidden = native_->isHidden();
   QWidget& painted = hidden ? *native_->parentWidget() : *native_;
   const QRect area = hidden ? native_->geometry() : native_->rect();
@@ -77,7 +78,7 @@ void Control::SetFocus() {
     return;
   }
   native_->setFocus(Qt::OtherFocusReason);
-  // While the window is not the active one, Qt only notes where the focus is to be.
+  // In an inactive window, QWidget::setFocus() sends no focus event.
   owner_.OnFocusGained(*this);
 }
 
@@ -101,7 +102,7 @@ const std::array<PropertyRow, 12> Control::kCommonRows = {{
     {"Width", 0, kThrough<&Control::SetWidth>},
     {"Top", 0, kThrough<&Control::SetTop>},
     {"Left", 0, kThrough<&Control::SetLeft>},
-    {"Index", -2147483648},  // no member of an array of controls
+    {"Index", -2147483648},  // not in an array of controls
     {"Name", "", kThrough<&Control::SetName>},
 }};
 
@@ -122,7 +123,7 @@ namespace {
 
 constexpr const char* kSystemFont = "System";
 
-// A family of the name that the desktop has, or the nearest to it in style that it has.
+// The font family of that name, or else the first of some similar ones that is installed.
 QString AvailableFamily(const std::string& family) {
   if (family == kSystemFont) return QGuiApplication::font().family();
   for (const char* humanist : {family.c_str(), "Verdana", "DejaVu Sans", "Noto Sans", "Open Sans",

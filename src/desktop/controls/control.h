@@ -14,28 +14,29 @@ namespace fundlet {
 class Control;
 enum class EditCommand;
 
-// A window as its controls know it.
+// What a control needs of its window.
 class ControlOwner {
  public:
-  virtual QWidget& Content() const = 0;  // where the controls stand
-  virtual Control* Focused() const = 0;
-  // The focus has come to a control, or gone from it, for good and not for the time of a menu.
+  virtual QWidget& Content() const = 0;  // the parent of the controls' widgets
+  virtual Control* Focused() const = 0;  // null for none
+  // A control has gained or lost the keyboard focus. While a menu is open, the control beneath it
+  // keeps the focus in this sense.
   virtual void OnFocusGained(Control& control) = 0;
   virtual void OnFocusLost(Control& control) = 0;
-  // Presses the default or the cancel button where the key means that, but not for a key that is
-  // held down. True where it means one of them.
+  // Presses the default button for Return and Enter, the cancel button for Escape. An auto-repeat
+  // presses nothing. Returns whether the window has a button for the key.
   virtual bool PressButtonFor(const QKeyEvent& event) = 0;
-  // Shows the menu of the editing commands as a context menu; the place is on the screen.
+  // Opens the menu with the editing commands as a context menu, at a point in screen coordinates.
   virtual void ShowEditMenu(const QPoint& place) = 0;
 
  protected:
   ~ControlOwner() = default;
 };
 
-// What all controls of a window have in common. Positions and sizes are in pixels of the window's
-// content area, with the origin at its top left.
+// What all controls have in common. Positions and sizes are in pixels, relative to the top left of
+// the window's content area.
 //
-// The control's object belongs to its window, which is given at construction and outlives it.
+// The window that is given at construction owns the control (Window::_AddControl) and its widget.
 class Control : public PropertyTarget {
  public:
   Control(const Control&) = delete;
@@ -55,44 +56,45 @@ class Control : public PropertyTarget {
   void SetVisible(bool visible);
   bool Enabled() const;
   void SetEnabled(bool enabled);
-  // Shown when the pointer rests on the control, enabled or not; a carriage return in it ends a
-  // line. Also the control's description for a screen reader.
+  // The tool tip, also of a disabled control, and its description for a screen reader. A carriage
+  // return in the text ends a line.
   void SetHelpTag(std::string_view text);
 
-  // Repaints the control: with True before this returns, else with the next events.
+  // Repaints the control: at once, or when Qt next delivers events.
   void Refresh(bool at_once);
-  // Gives the control the keyboard focus. The handlers of both controls have run when it returns;
-  // that of this one also where it has the focus already.
+  // Gives the control the keyboard focus. When it returns, LostFocus of the previous control and
+  // GotFocus of this one have run; GotFocus runs even if this control had the focus already.
   void SetFocus();
 
-  // Whether a ring is drawn round the control while it has the focus.
+  // Whether the window draws a ring round the control while it has the focus.
   bool UseFocusRing() const { return use_focus_ring_; }
   void SetUseFocusRing(bool use) { use_focus_ring_ = use; }
 
   int TabIndex() const { return tab_index_; }
   QWidget* Native() const { return native_; }
 
-  // The focus has come, or gone. The window calls these; they run the program's handlers.
+  // Run the program's handlers for a focus that is gained or lost. Only the window calls these.
   virtual void FireGotFocus() {}
   virtual void FireLostFocus() {}
-  // Whether the control has lost the focus when its window is no longer the active one: so it is
-  // with what can be typed into, and so may hold what the program has not read yet.
+  // Whether the control loses the focus when its window becomes inactive. True for text fields,
+  // whose text the program may not have read yet.
   virtual bool LosesFocusWithWindow() const { return false; }
-  // Enters the text that an input method still composes in the control.
+  // Makes the text that an input method is composing in the control part of the control's text.
   virtual void CommitComposition() {}
-  // Whether the editing command can do something to the control's text now, and its carrying out.
+  // Whether the editing command can act on the control's text now; false for None.
   virtual bool CanEdit(EditCommand /*command*/) const { return false; }
+  // Carries the command out; only to be called if CanEdit is true.
   virtual void Edit(EditCommand /*command*/) {}
 
  protected:
-  // The rows with which the table of every class of controls ends, but for single ones.
+  // The rows for order, size, position and name, which every class of controls has.
   static const std::array<PropertyRow, 12> kCommonRows;
 
   Control(ControlOwner& owner, QWidget* native);
   std::string Described() const override;
 
   ControlOwner& Owner() const { return owner_; }
-  // The size or a text has changed, so that the text may have to be narrowed anew.
+  // Adapts the font to a new size, font or text.
   virtual void FitText() {}
 
  private:
@@ -108,7 +110,7 @@ class Control : public PropertyTarget {
   bool use_focus_ring_ = true;
 };
 
-// A control that only shows a shape.
+// A control without text.
 class ShapeControl : public Control {
  public:
   PropertyTable Properties() const override;
@@ -117,8 +119,9 @@ class ShapeControl : public Control {
   using Control::Control;
 };
 
-// The font of a control with a text: a family, or "System" for that of the desktop, and a size in
-// pixels. A text that is wider than its place is narrowed until it fits.
+// A control with text. A font family that is not installed is replaced by a similar one; "System"
+// is the font of the desktop environment. The size is in pixels. A text that is wider than the
+// control is condensed (NarrowedToFit).
 class TextControl : public Control {
  public:
   void SetTextFont(std::string_view family);
@@ -128,7 +131,7 @@ class TextControl : public Control {
   void SetUnderline(bool underline);
 
  protected:
-  // Rows that the tables of controls with a text have in common.
+  // Rows that several classes share.
   static const std::array<PropertyRow, 6> kFontRows;
   static const std::array<PropertyRow, 3> kDataBindingRows;
 
@@ -136,7 +139,7 @@ class TextControl : public Control {
   void SetApplied() override { FitText(); }
   void FitText() override;
 
-  // The widest text that must be seen whole, and the pixels it has.
+  // The text that must be visible as a whole, and the width for it in pixels.
   virtual std::string WidestText() const { return {}; }
   virtual int WidthForText() const { return Width(); }
 

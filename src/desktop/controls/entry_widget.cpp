@@ -19,15 +19,15 @@ std::int64_t Length(const QString& text) {
   return CharactersOf(text, static_cast<int>(text.size()));
 }
 
-// Whether Qt enters the key's text. Control together with Alt is how some keyboards type.
+// Whether QLineEdit enters the key's text. Some keyboards type with Control and Alt together.
 bool Types(const QKeyEvent& event) {
   const auto modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
   return !event.text().isEmpty() && event.text().at(0) >= ' ' && event.text().at(0) != '\x7F' &&
          modifiers != Qt::ControlModifier;
 }
 
-// The keypad's decimal key, which many keyboard layouts give a comma. Some layouts mark it with no
-// Qt::KeypadModifier, so it is also known by its place on the keyboard.
+// The decimal key of the keypad, which types a comma on many keyboard layouts. On some of them the
+// key has no Qt::KeypadModifier, so its scan code is compared too.
 bool IsDecimalKey(const QKeyEvent& event) {
 #ifdef Q_OS_WIN
   constexpr quint32 kScanCode = 83;
@@ -39,14 +39,15 @@ bool IsDecimalKey(const QKeyEvent& event) {
   return of_keypad && (event.text() == "," || event.text() == u"\u066B");
 }
 
-// The shortcuts of the Edit menu, which reach a field as keys. Held down, they act once.
+// An auto-repeat of a shortcut of the Edit menu. QLineEdit overrides these shortcuts and gets them
+// as keys; they act once.
 bool IsHeldCommand(const QKeyEvent& event) {
   const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
   const bool shortcut = letter && event.modifiers().testFlag(Qt::ControlModifier);
   return event.isAutoRepeat() && (shortcut || event.matches(QKeySequence::Paste));
 }
 
-// A drop while a handler runs, or a message is open, would change what the handler works on.
+// Not while a handler runs or a message is open, because the handler works on the text.
 bool TakesDrop(const QLineEdit& field, const QDropEvent& event) {
   return event.mimeData()->hasText() && !field.isReadOnly() && !Gate().Busy();
 }
@@ -63,11 +64,11 @@ void EntryWidget::Write(const QString& text) {
   change_accepted_ = true;
   setText(text);
   change_accepted_ = false;
-  // Without the focus, the head of the text is to be seen where there is no room for all of it.
+  // Without the focus, a text that is too long shows its beginning.
   if (!hasFocus()) setCursorPosition(0);
 }
 
-// An assistive technology sets the text without Qt's taking that for the user's doing.
+// Assistive technology sets the text without a textEdited signal, so its changes are checked here.
 void EntryWidget::Changed(const QString& text) {
   const bool fits = limit_ == 0 || Length(text) <= limit_ || text.size() < accepted_text_.size();
   if (std::exchange(change_accepted_, false) || fits) {
@@ -142,7 +143,7 @@ void EntryWidget::inputMethodEvent(QInputMethodEvent* event) {
   if (!committed.isEmpty()) text_before_composition_ = text();
 }
 
-// QLineEdit has deleted the selected text when the composition began.
+// QLineEdit deletes the selected text when a composition begins.
 void EntryWidget::RefuseComposition() {
   composed_.clear();
   QInputMethodEvent end;
@@ -182,7 +183,7 @@ void EntryWidget::mouseReleaseEvent(QMouseEvent* event) {
   }
 }
 
-// Qt's own waits for a third click, which selects the whole text too.
+// After QLineEdit's own double click, a third click would select the whole text.
 void EntryWidget::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   QLineEdit::mouseDoubleClickEvent(event);
@@ -198,7 +199,7 @@ void EntryWidget::dragMoveEvent(QDragMoveEvent* event) {
 
 void EntryWidget::dropEvent(QDropEvent* event) {
   event->setAccepted(TakesDrop(*this, *event));
-  // What is dragged stays where it comes from, as copying leaves it.
+  // The dragged text stays where it comes from.
   event->setDropAction(Qt::CopyAction);
   if (event->isAccepted()) Replace(event->mimeData()->text());
 }

@@ -8,30 +8,30 @@
 
 namespace fundlet {
 
-// Qt's one-line text, with this program's care for what a hand puts into it. A limit holds
-// for what the user enters and never for what the program writes; what does not fit is refused with
-// a beep, and the text stays as it was. A text from elsewhere goes in whole or not at all: a paste
-// at the caret or over the selection, a drop and the middle button in the place of the whole text,
-// because nobody aims between two digits. A double click selects the whole text.
+// A QLineEdit that checks what the user enters. The limit never applies to text that the program
+// writes. Input that does not fit is refused with a beep and changes nothing. Pasted or dropped
+// text is accepted whole or not at all: a paste goes to the caret or over the selection; a drop or
+// a middle click replaces the whole text, because nobody can aim between two digits. A double click
+// selects all.
 class EntryWidget : public QLineEdit {
  public:
   EntryWidget();
 
-  // The largest number of characters that what the user enters can bring the text to; 0 for none.
+  // The greatest length, in characters, that the user's input may give the text; 0 for no limit.
   void SetLimit(int characters) { limit_ = characters; }
   int Limit() const { return limit_; }
-  void Write(const QString& text);  // by the program, whatever its length
+  void Write(const QString& text);  // the program's text, of any length
   void PasteFrom(QClipboard::Mode mode);
-  // Enters the text that an input method still composes, which text() does not contain.
+  // Enters the text that an input method is composing, and text() does not contain yet.
   void CommitComposition();
 
-  // Given the text with what comes from elsewhere in it, the text to stand there instead; nothing
-  // refuses it. Without it, whatever fits goes in.
+  // Called before pasted or dropped text goes in, with the text that would result. Returns the text
+  // to set instead, or nullopt to refuse. If unset, all that is within the limit is accepted.
   std::function<std::optional<QString>(const QString& outcome)> FilterInsertion;
 
  protected:
-  // Before and after a text from elsewhere takes the place of the whole text, by an action that
-  // needs no focus.
+  // Called before and after the whole text is replaced by an action that needs no focus (drop,
+  // middle click, assistive technology).
   virtual void AboutToReplace() {}
   virtual void Replaced() {}
 
@@ -45,7 +45,7 @@ class EntryWidget : public QLineEdit {
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
-  // The press under way has selected the whole text; its moves and its release must not undo that.
+  // The current mouse press has selected the whole text; its moves and its release must keep that.
   bool press_selected_all_ = false;
 
  private:
@@ -56,10 +56,10 @@ class EntryWidget : public QLineEdit {
   void RefuseComposition();
 
   int limit_ = 0;
-  QString composed_;  // by an input method, and not entered yet
+  QString composed_;  // the text that an input method is composing
   QString text_before_composition_;
-  QString accepted_text_;         // the last that the user entered or the program wrote
-  bool change_accepted_ = false;  // the change under way is made by one of them
+  QString accepted_text_;         // the last text of the user or of the program
+  bool change_accepted_ = false;  // while the user or the program changes the text
 };
 
 }  // namespace fundlet

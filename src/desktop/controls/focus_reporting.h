@@ -7,14 +7,14 @@
 
 namespace fundlet {
 
-// A widget of Qt that tells its window when the keyboard focus comes or goes. The time of
-// a menu is no loss of focus.
+// A Qt widget that reports to its window when it gains or loses the keyboard focus. An open menu
+// does not count as a loss.
 template <typename Widget>
 class FocusReporting : public Widget {
  public:
   explicit FocusReporting(ControlOwner& owner) : owner_(owner) {}
 
-  // Names the control that the widget belongs to; to be called once, when its object stands.
+  // Sets the control that the widget belongs to. To be called once, in the control's constructor.
   void AttachTo(Control& control) { control_ = &control; }
 
  protected:
@@ -24,8 +24,8 @@ class FocusReporting : public Widget {
   void focusInEvent(QFocusEvent* event) override {
     QFocusEvent for_qt(ForQt(*event));
     Widget::focusInEvent(&for_qt);
-    // A window that comes back while a handler runs is given its activation afterwards, and that
-    // decides where the focus is to be.
+    // If the window becomes active while a handler runs, its activation is delivered afterwards and
+    // decides the focus; the focus that Qt restores before that is ignored.
     const bool chosen_by_qt = event->reason() == Qt::ActiveWindowFocusReason && Gate().Busy() &&
                               owner_.Focused() == nullptr;
     if (!chosen_by_qt) owner_.OnFocusGained(*control_);
@@ -43,8 +43,8 @@ class FocusReporting : public Widget {
   static bool IsForMenu(const QFocusEvent& event) {
     return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
   }
-  // Qt's text fields keep their selection for the time of a popup, but not for that of the
-  // menu bar, whose commands act on it all the same.
+  // QLineEdit keeps its selection while a popup has the focus, but not while the menu bar has it.
+  // The commands of both act on the selection.
   static QFocusEvent ForQt(const QFocusEvent& event) {
     return QFocusEvent(event.type(), IsForMenu(event) ? Qt::PopupFocusReason : event.reason());
   }

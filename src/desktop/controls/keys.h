@@ -6,8 +6,8 @@ class QKeyEvent;
 
 namespace fundlet {
 
-// The text of a key, one character; empty for a key that has none. The keys for help, which are the
-// Help key, F1 and control-E, all give the application's HelpKey.
+// The text that the key enters, mostly one character; empty for a key without text. The keys for
+// help, which are the Help key, F1 and control-E, give the application's HelpKey.
 std::string KeyText(const QKeyEvent& event);
 
 }  // namespace fundlet

@@ -4,7 +4,7 @@
 
 namespace fundlet {
 
-// One line of text that cannot be edited.
+// One line of text that the user cannot edit.
 class Label : public TextControl {
  public:
   explicit Label(ControlOwner& owner);
@@ -13,9 +13,9 @@ class Label : public TextControl {
   void SetText(std::string_view text);
   void SetTextAlign(std::int64_t align);  // one of kLabelAlignment
   void SetTextColor(Colour colour);
-  // Makes this the label of a control: its text is the control's name for a screen reader.
+  // Makes the label's text the control's name for a screen reader.
   void SetLabelFor(const Control& control);
-  // Has a screen reader speak each text that is set from now on, wherever the focus is.
+  // From now on, a screen reader speaks each text that is set, wherever the focus is.
   void SetAnnounced() { announced_ = true; }
 
   PropertyTable Properties() const override;

@@ -17,7 +17,8 @@ class ButtonWidget : public FocusReporting<QPushButton> {
   using FocusReporting::FocusReporting;
 
  protected:
-  // Some desktops let Return press the button that has the focus. Here it calculates, everywhere.
+  // On some platforms Return presses the button that has the focus. Here it presses the default
+  // button on each.
   void keyPressEvent(QKeyEvent* event) override {
     if (!Owner().PressButtonFor(*event)) {
       FocusReporting::keyPressEvent(event);

@@ -6,22 +6,22 @@
 
 namespace fundlet {
 
-// A button with a caption. The mouse presses it without taking the focus from a field; Tab brings
-// the focus to it, and the space bar presses it then.
+// A button with a caption. A click presses it without moving the focus; Tab moves the focus to it,
+// and the space bar then presses it.
 class PushButton : public TextControl {
  public:
   explicit PushButton(ControlOwner& owner);
 
   std::string Caption() const;
   void SetCaption(std::string_view caption);
-  // The window's default button, which Return presses.
+  // Whether Return presses the button.
   void SetDefault(bool is_default);
   bool IsDefault() const { return default_; }
-  // The window's cancel button, which Escape presses.
+  // Whether Escape presses the button.
   void SetCancel(bool is_cancel) { cancel_ = is_cancel; }
   bool IsCancel() const { return cancel_; }
 
-  // Presses the button as a person would; a dimmed one does nothing.
+  // Presses the button as a click does; does nothing if it is disabled.
   void Press();
 
   std::function<void(PushButton&)> Action;

@@ -20,7 +20,8 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
  public:
   using FocusReporting::FocusReporting;
 
-  // The caret or the selection is the program's matter, what part of the page is seen the reader's.
+  // Moves the caret or the selection without scrolling; the user decides what part of the page is
+  // visible.
   void PutCursor(const QTextCursor& cursor) {
     const int first_line = verticalScrollBar()->value();
     setTextCursor(cursor);
@@ -40,25 +41,24 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
       FocusReporting::keyPressEvent(event);
     }
   }
-  // Qt's own menu shows no shortcuts, and is not offered to screen readers with them.
+  // QPlainTextEdit's own menu shows no shortcut for Copy.
   void contextMenuEvent(QContextMenuEvent* event) override {
     Owner().ShowEditMenu(event->globalPos());
   }
 
  private:
   static bool MovesCaret(int key) { return (key >= Qt::Key_Home && key <= Qt::Key_PageDown); }
-  // A page that has been scrolled is read on from where it is seen, and not from where the caret
-  // is.
+  // If the caret is out of sight, the keys move it from the first visible line.
   void BringCaretIntoView() {
     if (!viewport()->rect().intersects(cursorRect())) PutCursor(cursorForPosition(QPoint(0, 0)));
   }
-  // The page moves with the caret, so that each press is seen, and a screen reader reads the line.
+  // Scrolls the page and moves the caret, so that a screen reader reads the caret's line.
   void MoveByLines(int lines) {
     const int first_line = verticalScrollBar()->value() + lines;
     moveCursor(lines > 0 ? QTextCursor::Down : QTextCursor::Up);
     verticalScrollBar()->setValue(first_line);
   }
-  // A text that cannot be edited has no use for Return.
+  // Gives Return and Escape to the window's buttons, because read-only text does not use them.
   bool WindowTakesKey(QKeyEvent& event) const {
     const bool used = Owner().PressButtonFor(event);
     event.setAccepted(used);
@@ -73,7 +73,7 @@ AreaWidget& AreaOf(const Control& control) { return static_cast<AreaWidget&>(*co
 TextArea::TextArea(ControlOwner& owner) : TextControl(owner, new AreaWidget(owner)) {
   AreaOf(*this).AttachTo(*this);
   AreaOf(*this).setTabChangesFocus(true);
-  // No label stands beside it, so a screen reader tells it by its window.
+  // It has no label, so a screen reader names it by the window's title.
   AreaOf(*this).setAccessibleName(owner.Content().window()->windowTitle());
 }
 

@@ -6,8 +6,8 @@
 
 namespace fundlet {
 
-// A text of many lines, wrapped at the control's width. A line ends in a carriage return. Offsets
-// and lengths count characters.
+// A text of many lines, wrapped at the control's width. A carriage return ends a line. Offsets and
+// lengths count characters; they are clamped to the text, and lengths must not be negative.
 class TextArea : public TextControl {
  public:
   explicit TextArea(ControlOwner& owner);
@@ -29,8 +29,7 @@ class TextArea : public TextControl {
   std::function<void(TextArea&)> GotFocus;
 
   void FireGotFocus() override;
-  // A text of many lines is only ever read, so it can be copied from. It keeps its selection when
-  // the focus goes on to a button.
+  // Only Copy, also while another control has the focus: the selection stays.
   bool CanEdit(EditCommand command) const override;
   void Edit(EditCommand command) override;
 

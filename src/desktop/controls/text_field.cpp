@@ -24,7 +24,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
  public:
   using FocusReporting::FocusReporting;
 
-  // The width that a text can have and be seen whole, the caret behind it included.
+  // The width in which a text and the caret after it are visible as a whole.
   int WidthForText() const {
     QStyleOptionFrame option;
     initStyleOption(&option);
@@ -37,19 +37,19 @@ class FieldWidget : public FocusReporting<EntryWidget> {
 
  protected:
   void focusInEvent(QFocusEvent* event) override {
-    // The click that brings the focus selects the whole text, and must not undo that.
+    // The click that gives the focus selects the whole text; its release must not change that.
     press_selected_all_ = event->reason() == Qt::MouseFocusReason;
     FocusReporting::focusInEvent(event);
   }
   void AboutToReplace() override { Attached().SetFocus(); }
-  // While the window is not the active one, its activation is still to come, and would show the
-  // plan again: so the text is read into it before.
+  // If the window is inactive, its coming activation would overwrite the text with the plan's
+  // value, so the text is read into the plan first.
   void Replaced() override {
     if (isActiveWindow()) return;
     Owner().OnFocusLost(Attached());
     activateWindow();
   }
-  // Qt's own menu asks the clipboard, whose holder may not answer.
+  // QLineEdit's own menu asks for the clipboard's content, and its owner may not answer.
   void contextMenuEvent(QContextMenuEvent* event) override {
     press_selected_all_ = false;  // the release goes to the menu
     Owner().ShowEditMenu(event->globalPos());
@@ -59,7 +59,7 @@ class FieldWidget : public FocusReporting<EntryWidget> {
       event->accept();
     } else {
       FocusReporting::keyPressEvent(event);
-      // What the field has no use for either has been offered to the program already.
+      // The program has been offered the key already, so it does not go on to the window.
       event->accept();
     }
   }
@@ -104,7 +104,7 @@ void TextField::SetText(std::string_view text) {
   if (std::exchange(beyond_limit_, beyond_limit) || beyond_limit || widest) FitText();
 }
 
-// A text beyond the limit is narrowed too, so that no part of the number is out of sight.
+// A text beyond the limit is condensed too, so that the whole number is visible.
 std::string TextField::WidestText() const { return beyond_limit_ ? Text() : longest_text_; }
 
 bool TextField::HasFocus() const { return Owner().Focused() == this; }
@@ -182,7 +182,7 @@ bool TextField::CanEdit(EditCommand command) const {
     case EditCommand::Copy:
       return field.hasSelectedText() && field.echoMode() == QLineEdit::Normal;
     case EditCommand::Paste:
-      return true;  // what there is to paste is not asked: the program that holds it may not answer
+      return true;  // the clipboard is not asked, because its owner may not answer
     case EditCommand::Clear:
       return field.hasSelectedText();
     case EditCommand::None:

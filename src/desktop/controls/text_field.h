@@ -7,19 +7,20 @@
 
 namespace fundlet {
 
-// A one-line text that the user can edit. Offsets and lengths count characters.
+// A one-line text that the user can edit. Offsets and lengths count characters; they are clamped to
+// the text, and lengths must not be negative.
 class TextField : public TextControl {
  public:
   explicit TextField(ControlOwner& owner);
 
   std::string Text() const;
-  // What the program writes stands, also where it is longer than the limit.
+  // Also sets a text that is longer than the limit.
   void SetText(std::string_view text);
   void SetSelStart(std::int64_t start);    // puts the caret there; nothing is selected then
   void SetSelLength(std::int64_t length);  // selects from SelStart
   std::int64_t SelStart() const;
   std::int64_t SelLength() const;
-  // The largest number of characters that what the user enters can bring the text to; 0 for none.
+  // The greatest length, in characters, that the user's input may give the text; 0 for no limit.
   void SetLimitText(std::int64_t limit);
   void SetAlignment(std::int64_t alignment);  // one of kFieldAlignment
   void SetReadOnly(bool read_only);
@@ -29,15 +30,15 @@ class TextField : public TextControl {
   void SetTextColor(Colour colour);
   void SetCueText(std::string_view text);
 
-  // The focus has come to the field, or gone from it.
+  // The field has gained or lost the focus.
   std::function<void(TextField&)> GotFocus;
   std::function<void(TextField&)> LostFocus;
-  // A key was pressed, given as its one-character text, before the field acts on it. True uses the
-  // key up.
+  // A key with a text (KeyText) is pressed. Called before the field acts on it; if it returns true,
+  // the field does not.
   std::function<bool(TextField&, const std::string& key)> KeyDown;
 
-  // A text is put into the field from elsewhere. Given what would then stand there, and the limit;
-  // gives what shall stand there, or nothing to refuse it.
+  // Text is being pasted or dropped. Gets the text that would result and the limit in characters;
+  // returns the text to set, or nullopt to refuse.
   std::function<std::optional<std::string>(const std::string& text, std::size_t limit)> Pasting;
 
   void FireGotFocus() override;
@@ -54,7 +55,7 @@ class TextField : public TextControl {
   int WidthForText() const override;
 
  private:
-  // A selection made while the field did not have the focus: it is seen when the focus comes.
+  // A selection that is made while the field does not have the focus; set when it gains the focus.
   struct Selection {
     std::int64_t start;
     std::int64_t length;
@@ -63,8 +64,8 @@ class TextField : public TextControl {
   void Select(Selection selection);
 
   std::optional<Selection> waiting_selection_;
-  bool beyond_limit_ = false;  // what the program has written last
-  std::string longest_text_;   // of those within the limit that the program has written
+  bool beyond_limit_ = false;  // the program's last text is longer than the limit
+  std::string longest_text_;   // the longest text of the program that is within the limit
 };
 
 }  // namespace fundlet

@@ -18,12 +18,12 @@ namespace fundlet {
 
 namespace {
 
-// How often a computation lets Qt work. The yields between two looks at the clock take
-// some tenths of a millisecond.
+// How often a computation lets Qt deliver events. The yields between two ticks, which look at the
+// clock, take some tenths of a millisecond.
 constexpr qint64 kPumpMilliseconds = 8;
 constexpr int kYieldsPerTick = 20'000;
 
-// How long a click waits for the activation of its window, which may not come.
+// How long a click waits for the activation of its window, which the desktop may refuse.
 constexpr int kActivationTimeoutMs = 200;
 
 bool IsUserInput(const QEvent& event) {
@@ -61,7 +61,7 @@ bool IsCancelGesture(const QEvent& event) {
   const auto& key = static_cast<const QKeyEvent&>(event);
   const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
   return (key.key() == Qt::Key_Escape && modifiers == Qt::NoModifier) ||
-         // Some keyboards have the full stop on the shift key.
+         // On French and other layouts the full stop needs Shift.
          (key.key() == Qt::Key_Period && (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier);
 }
 
@@ -109,19 +109,19 @@ void HeldInput::StopAwaiting() {
   ScheduleReplay();
 }
 
-// Where the halves of a repetition reach Qt apart, it takes them for a release and a fresh
-// press. Their times tell: no hand lets go and presses again within one millisecond.
+// If the release and the press of an auto-repeat reach Qt separately, Qt takes them for a release
+// and a new press. Equal time stamps give them away: nobody does both within a millisecond.
 bool HeldInput::IsUnmarkedRepeat(QObject* object, const QEvent& event) {
   if (!IsKey(event) || !object->isWindowType()) return false;
   const auto& key = static_cast<const QKeyEvent&>(event);
-  // A screen reader's side hands keys on without their times.
+  // Keys that come through the accessibility service carry no time stamp.
   if (key.nativeScanCode() == 0 || key.timestamp() == 0) return false;
   const std::pair stroke(key.nativeScanCode(), key.timestamp());
   if (event.type() == QEvent::KeyRelease) last_release_ = stroke;
   return event.type() != QEvent::KeyRelease && !key.isAutoRepeat() && stroke == last_release_;
 }
 
-// A repetition that Qt has not told as one: told now.
+// Delivers, marked as an auto-repeat, a repeat that Qt did not mark.
 void HeldInput::DeliverAsRepeat(QObject* object, QEvent& event) {
   event.accept();
   if (event.type() != QEvent::KeyPress) return;
@@ -133,8 +133,8 @@ void HeldInput::DeliverAsRepeat(QObject* object, QEvent& event) {
 
 bool HeldInput::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) StopAwaiting();
-  // An end that the desktop asks for, as that of its session, closes an open message like any
-  // answer. It has to be the program's end too, also while the start waits for that answer.
+  // A request to quit from the desktop environment closes an open message, and the handler that has
+  // opened it goes on. The request must also end the program, even during the start.
   if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
   if (!IsUserInput(*event)) return false;
   if (IsUnmarkedRepeat(object, *event)) {
@@ -164,7 +164,8 @@ bool HeldInput::Hold(QObject* object, QEvent* event) {
   } else {
     event->accept();
   }
-  // A shortcut is looked for when its key is delivered. One that is held down acts once.
+  // Not queued: ShortcutOverride, which Deliver sends itself, and repeats of a shortcut, which acts
+  // once.
   if (event->type() != QEvent::ShortcutOverride && !IsHeldShortcut(*event)) {
     held_.push_back({object, std::unique_ptr<QEvent>(event->clone())});
   }
@@ -179,7 +180,7 @@ void HeldInput::ScheduleReplay() {
 
 void HeldInput::ReplayNext() {
   replay_scheduled_ = false;
-  // The gate calls again when it is idle.
+  // While a handler runs, nothing is delivered: the gate calls ScheduleReplay when it is idle.
   if (held_.empty() || awaited_ != nullptr || Gate().Busy()) return;
   const Held next = std::move(held_.front());
   held_.pop_front();

@@ -13,21 +13,24 @@
 
 namespace fundlet {
 
-// What the user does while a computation runs. The yields of the computation let Qt paint
-// and move on every few milliseconds; the keys, clicks and requests to close that come meanwhile
-// are held, and handed on in their order when the handler that computes has returned. The gesture
-// that cancels (Escape, or Ctrl and full stop; Cmd on a Mac) is the exception: it takes effect at
-// once.
+// Holds the user's input while a computation runs. The computation's yields let Qt deliver events
+// every few milliseconds. Keys, clicks, text of input methods and requests to close are kept, and
+// delivered in their order when the handler has returned. Only the cancel keys (Escape, Ctrl+full
+// stop; Cmd+full stop on a Mac) act at once. Qt makes clicks of a touch or a pen, which are held
+// like those of the mouse.
 //
-// On some desktops a click reaches a window before the activation that it brings. It is held until
-// then, so that what the activation does with the focus comes before what the user has clicked on.
+// On Wayland a click reaches a window before the activation that it causes. The click is held until
+// the activation has set the focus.
+//
+// Also discards the input to windows beneath an open dialog (ModalDialog::Blocks), and marks key
+// repeats that Qt does not mark.
 class HeldInput : public QObject {
  public:
   HeldInput();
   ~HeldInput() override;
 
   bool eventFilter(QObject* object, QEvent* event) override;
-  // Hands on what is held, one event after the other; to be called whenever no handler runs.
+  // Delivers the held events, one by one. To be called whenever the last handler has returned.
   void ScheduleReplay();
 
  private:
@@ -48,9 +51,9 @@ class HeldInput : public QObject {
   static void Deliver(QObject& receiver, QEvent& event);
 
   std::deque<Held> held_;
-  QPointer<QWindow> awaited_;  // the window that a held click activates
+  QPointer<QWindow> awaited_;  // the window whose activation a held click waits for
   QTimer activation_timer_;
-  std::pair<quint32, quint64> last_release_;  // the key, and when
+  std::pair<quint32, quint64> last_release_;  // scan code and time stamp
   QElapsedTimer since_pump_;
   bool pumping_ = false;
   bool replaying_ = false;

@@ -4,8 +4,8 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-// The way that QTest gives keys in Qt before they reach a widget: first ShortcutOverride, then the
-// shortcuts.
+// The function with which QTest sends a synthetic key through Qt's normal path: first
+// ShortcutOverride, then the shortcuts.
 QT_BEGIN_NAMESPACE
 // NOLINTNEXTLINE(misc-use-internal-linkage)
 Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
@@ -17,9 +17,8 @@ namespace fundlet {
 
 namespace {
 
-// Whether a text field would enter the text of a key that is pressed together with Alt or Meta,
-// unless these are how the keyboard types: AltGr is Control and Alt on Windows, and the Option key
-// of a Mac is Alt.
+// Whether the widget would enter the text of a key with Alt or Meta. Not for keys that type: AltGr
+// is Control and Alt on Windows, and the Option key of a Mac is Alt.
 bool EntersCommand(const QObject& object, const QKeyEvent& key) {
   const auto* widget = qobject_cast<const QWidget*>(&object);
   if (widget == nullptr || !widget->testAttribute(Qt::WA_InputMethodEnabled)) return false;
@@ -33,8 +32,8 @@ bool EntersCommand(const QObject& object, const QKeyEvent& key) {
          key.text().at(0).isPrint();
 }
 
-// The digit of a key in the digits' row that enters another character, pressed together with
-// Control; 0 for every other key, and for the digit 0.
+// The digit, 1 to 9, of a key in the digits' row that types another character and is pressed with
+// Control alone; 0 for every other key.
 int DigitOnShift(const QObject& object, const QKeyEvent& key) {
 #ifdef Q_OS_WIN
   constexpr quint32 kScanCodeOfZero = 1;

@@ -16,7 +16,7 @@ namespace {
 
 QString Escaped(const std::string& text) { return ToQt(text).replace('&', "&&"); }
 
-// Qt's name for the Cmd key is Ctrl; it puts the platform's own key in its place.
+// QKeySequence calls the Cmd key Ctrl, which is the Control key on other platforms.
 QKeySequence Shortcut(const MenuItem& item) {
   return QKeySequence::fromString(ToQt(item.KeyboardShortcut).replace("Cmd", "Ctrl"),
                                   QKeySequence::PortableText);
@@ -38,7 +38,7 @@ MenuView::MenuView(Callbacks callbacks, const MenuItem& tree, QMenuBar& bar)
     menu->setObjectName(ToQt(item->Name));
     Fill(*menu, *item);
     bar.addMenu(menu);
-    QObject::connect(menu, &QMenu::aboutToShow, menu, callbacks_.enable);
+    QObject::connect(menu, &QMenu::aboutToShow, menu, callbacks_.update);
   }
 }
 
@@ -61,8 +61,8 @@ void MenuView::AddItem(QMenu& menu, MenuItem& item) {
 QAction& MenuView::AddAction(QMenu& menu, MenuItem& item) {
   QAction& action = *menu.addAction(Escaped(item.Text));
   action.setObjectName(ToQt(item.Name));
-  // A disabled action's shortcut never fires, and what can be chosen is decided when it does: so
-  // the action only shows it.
+  // Qt does not fire the shortcut of a disabled QAction, and the item is enabled or disabled only
+  // when it is chosen. So the action only shows the shortcut, and a QShortcut fires.
   action.setShortcut(Shortcut(item));
   action.setShortcutContext(Qt::WidgetShortcut);
   if (!action.shortcut().isEmpty()) {

@@ -12,20 +12,23 @@ namespace fundlet {
 
 class MenuItem;
 
-// One window's menus on the screen, made from the tree of items. The tree exists once; the bar, the
-// menus and the actions are the window's own, and act on that window.
+// The QMenus of one window, made from the tree of menu items. The windows share the tree; each has
+// menus and QActions of its own, which act on that window.
 class MenuView {
  public:
-  // What the window does for its menus.
+  // update enables and disables the items, and then calls UpdateActions; choose is called for each
+  // item that the user picks, by its shortcut also while it is disabled.
   struct Callbacks {
-    std::function<void()> enable;  // decides which items can be chosen now
+    std::function<void()> update;
     std::function<void(MenuItem&)> choose;
   };
+  // Fills the bar. The tree and the bar must outlive this.
   MenuView(Callbacks callbacks, const MenuItem& tree, QMenuBar& bar);
 
-  // Shows which items are enabled.
+  // Enables each QAction whose item is enabled, and disables the others.
   void UpdateActions();
-  // Shows the menu that has the editing commands as a context menu.
+  // Opens the menu with the editing commands as a context menu, at a point in screen coordinates;
+  // does nothing if no menu has any.
   void ShowEditMenu(const QPoint& place) const;
 
  private:

@@ -29,7 +29,7 @@ std::vector<Window*>& VisibleWindows() { return RunState::Of<WindowOrder>().wind
 
 }  // namespace
 
-// The run may have ended, and its windows' order with it.
+// Find, because a window may outlive the run and so the order of its windows.
 Window::~Window() {
   open_ = false;
   if (auto* order = RunState::Find<WindowOrder>()) std::erase(order->windows, this);
@@ -124,23 +124,24 @@ void Window::FirstShow() {
   Activated();
 }
 
-// In the middle of the main screen's usable area; where that is too low, the window is made lower.
+// Puts the window in the middle of the primary screen's usable area, and makes it lower if that is
+// too low.
 void Window::Centre() {
-  constexpr int kTitleBar = 30;  // at least as high as those of the desktops
+  constexpr int kTitleBar = 30;  // pixels; the desktop environments have lower ones
   const Screen screen(0);
   const int menus = native_->height() - Height();
-  const int room =
+  const int most =
       std::max(screen.AvailableHeight() - kTitleBar - menus, native_->Smallest().height());
-  if (Height() > room) {
-    SetHeight(room);
+  if (Height() > most) {
+    SetHeight(most);
     Resized();
   }
   SetLeft(screen.AvailableLeft() + (screen.AvailableWidth() - Width()) / 2);
   SetTop(screen.AvailableTop() + std::max(kTitleBar, (screen.AvailableHeight() - Height()) / 2));
 }
 
-// Tab goes through the controls by rising TabIndex; those that are equal in it keep the order in
-// which they were made.
+// Tab goes through the controls by rising TabIndex; controls with equal ones keep the order in
+// which they were added.
 Control* Window::ApplyTabOrder() {
   std::vector<Control*> order;
   for (const auto& control : controls_) {
@@ -271,7 +272,7 @@ Control* Window::EditTarget(EditCommand command) const {
 }
 
 void Window::UpdateMenuItems() {
-  // While a message is open, the field may still show what the handler that waits has replaced.
+  // While a message is open, a field may still show a value that the handler beneath has replaced.
   if (ModalDialog::IsOpen()) return;
   Gate().EnterWithin([this] {
     MenuBar().ForEach([this](MenuItem& item) {

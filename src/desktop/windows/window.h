@@ -21,11 +21,11 @@ namespace fundlet {
 class NativeWindow;
 
 // A top-level window with controls at fixed places. A program's window derives from it, makes its
-// controls in its constructor, and overrides the events it cares for. Sizes are those of the
+// controls in its constructor, and overrides the events that it handles. Sizes are those of the
 // content area, in pixels; a menu bar inside the window is not part of it.
 //
-// Event_Activate, the handlers of menu items and a button's Action wait while another handler runs;
-// the other events come within it where it brings them about.
+// While a handler runs, Event_Activate, menu handlers, a button's Action and a request to close are
+// queued until it returns. Events that it causes itself run at once, inside it.
 class Window : public PropertyTarget, public ControlOwner, private WindowEvents {
  public:
   Window();
@@ -35,7 +35,7 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
 
   int Width() const;
   int Height() const;
-  int Left() const;  // of the window without its frame
+  int Left() const;  // without the frame
   int Top() const;
   void SetLeft(std::int64_t left);
   void SetTop(std::int64_t top);
@@ -44,52 +44,57 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   void SetTitle(std::string_view title);
   PropertyTable Properties() const override;
 
-  // The menus of this window; without any, it shows the application's.
+  // The menus of this window; if none are set, the application's. NilObjectException if there are
+  // none either.
   void SetMenuBar(fundlet::MenuBar& menu_bar) { menu_bar_ = &menu_bar; }
   fundlet::MenuBar& MenuBar() const;
-  // Binds a method to the item of that name, for when it is chosen with this window in front.
+  // Binds a handler to the menu item of that name, for this window; it replaces an earlier one.
+  // What it returns is ignored.
   void _AddMenuHandler(const std::string& item_name, std::function<bool()> handler);
 
-  // Takes the control into the window's registry under its name; RuntimeException where there is
-  // one of that name.
+  // Registers the control under the name. RuntimeException if the window has a control of that
+  // name; the new one is then destroyed with its widget.
   void _AddControl(const std::string& name, std::unique_ptr<Control> control);
-  // The control of that name; NilObjectException where there is none.
+  // The control of that name; NilObjectException if there is none.
   Control& _ControlByName(std::string_view name) const;
-  // The same, checked to be of the class asked for.
+  // The same; NilObjectException also if it is of another class.
   template <typename ControlClass>
   ControlClass& ControlOf(std::string_view name) const;
 
-  // Fires Event_Open. To be called once, when the window's object stands.
+  // Runs Event_Open. To be called once, when the window's object is complete.
   void Open();
-  // Makes the window visible and brings it to the front. The first time it fires Event_Activate,
-  // with the focus on the first control in the order of the TabIndex.
+  // Makes the window visible and brings it to the front, unless it is closed. The first call gives
+  // the focus to the first control in the order of TabIndex, and then runs Event_Activate.
   void Show();
-  // Closes the window, and fires Event_Close, once.
+  // Closes the window and runs Event_Close; does nothing if the window is not open.
   void Close();
   bool IsOpen() const { return open_; }
-  // Takes the focus from whatever control has it, so that its handler runs.
+  // Takes the focus from the control that has it, and runs its LostFocus.
   void ClearFocus();
 
-  // The frontmost window of the program, null where none is visible.
+  // The frontmost window of the program; null if none is visible.
   static Window* Front();
 
-  // Whether the program ends with the window, whatever else is open then.
+  // Whether the program ends when the window is closed, so that closing it dismisses all dialogs.
   virtual bool EndsProgram() const { return false; }
   virtual void Event_Open() {}
+  // The window has become active. May run more than once for one dialog that closes over it.
   virtual void Event_Activate() {}
   virtual void Event_Close() {}
   virtual void Event_EnableMenuItems() {}
+  // A key with a text (KeyText) that no control has used. Returns whether the window has used it.
   virtual bool Event_KeyDown(const std::string& /*key*/) { return false; }
   virtual void Event_Resized() {}
 
-  // What the rest of the desktop calls.
+  // For the other classes of src/desktop.
   NativeWindow& Native() const { return *native_; }
-  // Shows a dialog over the window, or by itself where that is null, and returns when it has been
-  // answered. The window is activated once the handler that called this has returned.
+  // Shows a dialog, and returns when it is closed. The window, which may be null, is activated
+  // after the handler that has called this.
   static void RunDialog(QDialog& dialog, Window* window);
-  // Enters the text that an input method still composes in the control that has the focus.
+  // Makes the text that an input method is composing part of the text of the focused control.
   void CommitComposition() const;
-  // The pass that decides which menu items can be chosen now.
+  // Enables the menu items that can be chosen now and disables the others; does nothing while a
+  // dialog is open.
   void UpdateMenuItems();
 
   QWidget& Content() const override;
@@ -110,13 +115,13 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   bool KeyPressed(const QKeyEvent& event) override;
   const Control* RingedControl() const override;
   void FirstShow();
-  void Choose(MenuItem& item);  // carries it out, where it can be chosen
+  void Choose(MenuItem& item);  // runs the item's handler or command if it is enabled
   void Centre();
-  Control* ApplyTabOrder();  // gives the first control of the order, null where there is none
+  Control* ApplyTabOrder();  // returns the first control in the order; null if there is none
   bool HasHandler(const MenuItem& item) const;
-  Control* EditTarget(EditCommand command) const;  // null where it can do nothing
+  Control* EditTarget(EditCommand command) const;  // null if the command can act on no control
 
-  // The widgets, which refer to their controls, go before these.
+  // Declared before native_, so that the widgets, which refer to these, are destroyed first.
   std::vector<std::unique_ptr<Control>> controls_;
   std::unique_ptr<NativeWindow> native_;
   std::map<std::string, std::function<bool()>, std::less<>> menu_handlers_;
