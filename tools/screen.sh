@@ -29,8 +29,8 @@ wait_for() {
   done
 }
 
-# Opens a screen of the given size, such as 1024x640, and a home of its own, so that nothing of the
-# user's is read or written. Sets DISPLAY.
+# open_screen SIZE, such as 1024x640: opens a virtual screen, and sets DISPLAY to it and HOME to an
+# empty folder, so that no file of the user's is read or written.
 open_screen() {
   screen_folder=$(mktemp -d)
   mkdir -m 700 "$screen_folder/home" "$screen_folder/config" "$screen_folder/runtime"
@@ -50,8 +50,8 @@ open_screen() {
   open_bus
 }
 
-# A session bus of the screen's own, where there is D-Bus at all. Left to look for one, libdbus calls
-# for dbus-launch, and where that is missing it loses memory.
+# Starts a session bus for the screen, if D-Bus is installed. Without an address libdbus would run
+# dbus-launch, and leak memory if that is missing.
 open_bus() {
   local bus=$screen_folder/runtime/bus
   command -v dbus-daemon >/dev/null || return 0
@@ -62,7 +62,8 @@ open_bus() {
   export DBUS_SESSION_BUS_ADDRESS=unix:path=${bus// /%20}
 }
 
-# Opens a Wayland desktop that fills such a screen, and lets the programs frame their windows.
+# open_wayland SIZE: opens such a screen with a Wayland desktop on it, on which programs draw the frames
+# of their windows themselves.
 open_wayland() {
   open_screen "$1"
   printf '%s\n' '[shell]' panel-position=none close-animation=none startup-animation=none \
@@ -72,7 +73,7 @@ open_wayland() {
   screen_processes+=($!)
   export WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland
   wait_for 20 weston-debug scene-graph || fail 'the Wayland desktop did not open'
-  # It follows the pointer's way and not its place, until the pointer has been in a corner.
+  # weston adds up the pointer's movements; from a corner on, its pointer is where the screen's is.
   xdotool mousemove 4000 4000 sleep 0.5 mousemove 0 0 sleep 0.5
 }
 
@@ -84,7 +85,7 @@ wayland_windows() {
     s/.*PID ([0-9]+), surface ID ([0-9]+)[^']*'(.*)'.*: \((-?[0-9]+), (-?[0-9]+)\) -> \((-?[0-9]+), (-?[0-9]+)\).*/\2 \1 \4 \5 \6 \7 \3/p }"
 }
 
-# Ends what was started on the screen, the last first, and removes the home.
+# Ends all processes of the screen, the last first, and removes its folder.
 close_screen() {
   local i
   for ((i = ${#screen_processes[@]} - 1; i >= 0; i--)); do
@@ -95,7 +96,7 @@ close_screen() {
   [ -z "$screen_folder" ] || rm -rf "$screen_folder"
 }
 
-# The window that has the keyboard, and the process it belongs to.
+# The window that has the keyboard focus, and its process.
 active_window() {
   if on_wayland; then wayland_windows | awk '{ print $1; exit }'; else xdotool getactivewindow 2>/dev/null; fi
 }
@@ -115,7 +116,7 @@ window_title() {
   fi
 }
 
-# The place on the Wayland desktop, or 0 0, and the size of a window: X Y WIDTH HEIGHT.
+# The place and size of a window: X Y WIDTH HEIGHT; under X the place is always 0 0.
 window_place() {
   if on_wayland; then
     wayland_windows | awk -v window="$1" '$1 == window { print $3, $4, $5 - $3, $6 - $4 }'
@@ -124,7 +125,7 @@ window_place() {
   fi
 }
 
-# window_picture WINDOW X Y WIDTH HEIGHT FILE: a part of the window.
+# window_picture WINDOW X Y WIDTH HEIGHT FILE: saves a picture of a part of the window.
 window_picture() {
   local x y rest window=root
   read -r x y rest < <(window_place "$1")
@@ -132,7 +133,7 @@ window_picture() {
   import -silent -window "$window" -crop "$4x$5+$((x + $2))+$((y + $3))" -depth 8 "$6"
 }
 
-# click_in WINDOW X Y: a click of the mouse on that place of the window.
+# click_in WINDOW X Y: clicks at that place of the window.
 click_in() {
   local x y rest
   read -r x y rest < <(window_place "$1")
@@ -144,7 +145,7 @@ click_in() {
   xdotool sleep 0.2 click 1
 }
 
-# move_window WINDOW X Y: drags the window by its title to that place of the Wayland desktop.
+# move_window WINDOW X Y: drags the window by its title bar to that place of the Wayland desktop.
 move_window() {
   local x y rest
   read -r x y rest < <(window_place "$1")
@@ -154,13 +155,14 @@ move_window() {
 
 is_active() { [ "$(active_window)" = "$1" ]; }
 
-# A window of the process has the keyboard, and it is not the one named (which may be none).
+# other_window_of_is_active PROCESS WINDOW: a window of the process has the keyboard focus, and it is
+# not WINDOW (which may be "none").
 other_window_of_is_active() { [ "$(active_process)" = "$1" ] && ! is_active "$2"; }
 
 press() { xdotool key --clearmodifiers --delay 30 "$@"; }
 type_text() { xdotool type --clearmodifiers --delay 20 -- "$1"; }
 
-# Types the texts into one field after the other, from the one that has the focus.
+# type_fields TEXT...: types each text into a field, from the field with the focus on, in Tab order.
 type_fields() {
   local text
   for text in "$@"; do

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Draws the pictures of each size anew. The smallest ones have a drawing of their own, because the
-# outlines of the large one are thinner than a pixel there.
+# Draws the icon in each size. The smallest sizes have a drawing of their own, because the outlines of
+# the large drawing would be thinner than a pixel.
 set -euo pipefail
 cd "$(dirname "$0")"
 

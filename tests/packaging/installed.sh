@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The built program installed into an empty prefix: installed.sh SOURCE BUILD
+# Installs the built program into an empty folder, checks the files, and starts it there:
+# installed.sh SOURCE BUILD
 set -euo pipefail
 source=$1
 build=$2
@@ -18,7 +19,7 @@ for size in 16 32 64 128 256; do
   [ "$(identify -format %wx%h "$share/icons/hicolor/${size}x$size/apps/fundlet.png")" = \
     "${size}x$size" ] || fail "the icon of $size by $size is not there"
 done
-# There is no home page to name, which newer releases of AppStream remark on.
+# Newer releases of AppStream miss a home page, which the program does not have.
 validate_metainfo() {
   local remarks
   remarks=$(appstreamcli validate --no-net --no-color "$1" 2>&1) ||
@@ -42,7 +43,8 @@ remarks=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -T
 [ -z "$remarks" ] || fail "manual page: $remarks"
 
 open_screen 1024x640
-# expect_no_window CAUSE COMMAND...: it ends with status 1, and one line that names the cause.
+# expect_no_window CAUSE COMMAND...: the program, started by the command, ends with status 1 and one
+# line that names the cause.
 expect_no_window() {
   local status=0 cause=$1
   shift

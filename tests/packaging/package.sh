@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the Debian package and looks it over: package.sh SOURCE FOLDER
+# Builds the Debian package into a folder, and checks it with lintian: package.sh SOURCE FOLDER
 set -euo pipefail
 source=$1
 folder=$2
@@ -8,10 +8,10 @@ need dh lintian
 
 rm -rf "$folder"
 mkdir -p "$folder"
-# A narrow mask, which no file in the package may keep.
+# No file in the package may keep the permissions of this narrow mask.
 (umask 077 && "$source/packaging/build-deb" "$folder" >"$folder/log" 2>&1) ||
   { tail -50 "$folder/log"; fail 'the package could not be built'; }
-# What AppStream says is looked at, remark by remark, by the test of the installed program.
+# The test of the installed program checks AppStream's remarks one by one.
 lintian --allow-root --fail-on none "$folder"/*.deb >"$folder/lintian.log"
 ! grep '^[EW]:' "$folder/lintian.log" | grep -vw appstream-metadata-validation-failed ||
-  fail 'lintian has found what stands above'
+  fail 'lintian found these faults'

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the package into a new Debian, starts the program there and removes it again:
+# Installs the package into a fresh Debian, starts the program there, and removes the package:
 # package_in_fresh_root.sh SOURCE FOLDER
 set -euo pipefail
 source=$1

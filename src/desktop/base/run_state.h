@@ -58,7 +58,7 @@ Entry* RunState::Find() {
 
 template <typename Entry>
 Entry& RunState::Of() {
-  if (Entry* found = Find<Entry>()) return *found;
+  if (auto* found = Find<Entry>()) return *found;
   const auto made = std::make_shared<Entry>();
   Current().entries_.emplace_back(typeid(Entry), made);
   return *made;
