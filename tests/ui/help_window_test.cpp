@@ -58,6 +58,7 @@ TEST_F(Help, StandsAsMadeUntilItIsResizedAndThenFollowsItsSize) {
   EXPECT_EQ(Window().Native().Content().size(), QSize(400, 300));
   EXPECT_EQ(Found("TextField").geometry(), QRect(20, 20, 354, 226));
   EXPECT_EQ(Found("DoneButton").geometry(), QRect(305, 265, 69, 18));
+  EXPECT_EQ(Window().Native().maximumWidth(), 32000);
 }
 
 TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
@@ -116,7 +117,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
 TEST_F(Help, IsFoundAsItWasLeftAndAPressPlacesTheCaretWhereItIs) {
   user::Key(Qt::Key_F1);
   auto& page = Found<QPlainTextEdit>("TextField");
-  user::Key(Qt::Key_Down);
+  user::Key(Qt::Key_Down, Qt::KeypadModifier);
   EXPECT_EQ(page.verticalScrollBar()->value(), 1);
   EXPECT_EQ(page.textCursor().blockNumber(), 1);
   user::Key(Qt::Key_Tab);

@@ -117,6 +117,15 @@ TEST_F(Legibility, HoldsUnderAnyThemeAndScale) {
   QApplication::setPalette(light);
 }
 
+TEST_F(Legibility, HoldsWithinASelection) {
+  Start();
+  const QRect amid_text = Inside(Found("StartYearField")).adjusted(2, 2, -12, -2);
+  ASSERT_EQ(Selected("StartYearField"), Text("StartYearField"));
+  const QImage picture = Picture(Main().Native(), 1.0);
+  EXPECT_GE(ContrastIn(picture, amid_text), 7.0);
+  EXPECT_NE(picture.pixelColor(amid_text.topLeft()), Qt::white) << "it is seen to be selected";
+}
+
 TEST_F(Legibility, HoldsInTheMenusTheHelpAndTheMessages) {
   Start();
   user::OpenMenu("Edit");

@@ -1,0 +1,158 @@
+#include <QAccessible>
+#include <QContextMenuEvent>
+
+#include "tests/ui/window_fixture.h"
+#include "ui/global_module.h"
+#include "ui/help_window.h"
+
+namespace fundlet {
+namespace {
+
+using Controls = StartedTest;
+
+TEST_F(Controls, ShowEachPropertyThatIsSet) {
+  static constexpr Colour kColour{1, 2, 3};
+  const auto is = [](const QWidget& widget, const char* name, int value) {
+    return widget.property(name).isValid() && widget.property(name).toInt() == value;
+  };
+  using Widget = const QWidget&;
+  const std::tuple<const char*, PropertyValue, std::function<bool(Widget)>> cases[] = {
+      {"Visible", false, [](Widget w) { return w.isHidden() && w.isEnabled(); }},
+      {"Enabled", false, [](Widget w) { return !w.isEnabled(); }},
+      {"Underline", true, [](Widget w) { return w.font().underline(); }},
+      {"Italic", true, [](Widget w) { return w.font().italic(); }},
+      {"Bold", true, [](Widget w) { return w.font().bold(); }},
+      {"TextSize", 17.0F, [](Widget w) { return w.font().pixelSize() == 17; }},
+      {"TextFont", "Noto Sans", [](Widget w) { return w.font().family() == "Noto Sans"; }},
+      {"BackColor", kColour, [](Widget w) { return w.palette().base() == QColor(1, 2, 3); }},
+      {"ReadOnly", false, [](Widget w) { return !w.property("readOnly").toBool(); }},
+      {"ReadOnly", true, [](Widget w) { return w.property("readOnly").toBool(); }},
+      {"CueText", "x", [](Widget w) { return w.property("placeholderText") == "x"; }},
+      {"Password", true, [&](Widget w) { return is(w, "echoMode", QLineEdit::Password); }},
+      {"Border", false, [&](Widget w) { return is(w, "frame", 0) || is(w, "frameShape", 0); }},
+      {"UseFocusRing", true, [](Widget) { return true; }},
+      {"ScrollbarVertical", false,
+       [&](Widget w) { return is(w, "verticalScrollBarPolicy", Qt::ScrollBarAlwaysOff); }},
+      {"ScrollbarHorizontal", true,
+       [&](Widget w) { return is(w, "lineWrapMode", QPlainTextEdit::NoWrap); }},
+  };
+  user::Key(Qt::Key_F1);
+  Control* const controls[] = {&Main().StaticText1(), &Main().StartYearField(),
+                               &Main().SaveButton(), &GlobalModule::HelpWindow->TextField()};
+  for (Control* control : controls) {
+    for (const auto& [name, value, shows] : cases) {
+      for (const PropertyRow& row : control->Properties()) {
+        if (row.name != name) continue;
+        const Property own{name, value};
+        control->_SetProperties(EncodePropertySet({&row, 1}, {&own, 1}));
+        EXPECT_TRUE(shows(*control->Native())) << control->Name() << ", " << name;
+      }
+    }
+  }
+}
+
+TEST_F(Controls, NarrowACaptionThatIsTooWideForItsFrame) {
+  auto& button = Main().SaveButton();
+  const auto width = [&, text = QString::fromStdString(button.Caption())] {
+    return QFontMetricsF(button.Native()->font()).horizontalAdvance(text);
+  };
+  const int plain = static_cast<int>(std::ceil(width()));
+  for (const int lacking : {0, 1, 9, 100}) {
+    button.SetWidth(plain + 10 - lacking);
+    const int stretch = button.Native()->font().stretch();
+    EXPECT_EQ(stretch == QFont::AnyStretch, lacking == 0);
+    EXPECT_EQ(width() <= plain - lacking, lacking < 100);
+    EXPECT_TRUE(lacking == 0 || stretch >= (lacking < 100 ? 80 : 50));
+  }
+}
+
+TEST_F(Controls, TellAndTakeTheSelectionOfAFieldForAScreenReader) {
+  Fill("StartFundletField", "1,234.56");
+  auto& field = Main().StartFundletField();
+  QAccessibleInterface* face = QAccessible::queryAccessibleInterface(field.Native());
+  QAccessibleTextInterface& text = *face->textInterface();
+  const auto expect_selected = [&](int from, int to) {
+    int start = -1;
+    int end = -1;
+    text.selection(0, &start, &end);
+    EXPECT_TRUE(start == from && end == to) << start << ", " << end;
+    EXPECT_EQ(text.selectionCount(), to > 0 ? 1 : 0);
+    EXPECT_EQ(field.SelLength(), to - from);
+  };
+  text.setSelection(0, 2, 5);
+  expect_selected(2, 5);
+  text.setSelection(1, 0, 1);
+  text.removeSelection(1);
+  expect_selected(2, 5);
+  text.removeSelection(0);
+  expect_selected(0, 0);
+  text.addSelection(1, 3);
+  expect_selected(1, 3);
+  text.setCursorPosition(4);
+  EXPECT_EQ(text.cursorPosition(), 4);
+  EXPECT_EQ(text.text(2, 5), "234");
+  for (int at = 0; at < text.characterCount(); ++at) {
+    const QRect place = text.characterRect(at);
+    EXPECT_EQ(text.offsetAtPoint(place.center() - QPoint(place.width() / 3, 0)), at);
+    EXPECT_EQ(text.characterRect(at + 1).left(), place.right() + 1);
+  }
+  face->editableTextInterface()->replaceText(2, 5, "7");
+  EXPECT_EQ(face->text(QAccessible::Value), "1,7.56");
+  face = QAccessible::queryAccessibleInterface(&Found("StartYearField"));
+  Main().StartYearField().SetText("123456");
+  for (const auto& [set, shown] :
+       {std::pair{"654321", "123456"}, {"65432", "65432"}, {"54321", "65432"}}) {
+    face->setText(QAccessible::Value, set);
+    EXPECT_EQ(Text("StartYearField"), shown) << "beyond the limit, a text may only get shorter";
+  }
+}
+
+TEST_F(Controls, KeepTheSelectionOfThePressThatBringsTheFocus) {
+  QWidget& field = Found("EndFundletField");
+  const auto drag = [&](Qt::MouseButton button) {
+    QWindow* window = field.window()->windowHandle();
+    const QPoint from = field.mapTo(field.window(), QPoint(6, 10));
+    QTest::mousePress(window, button, {}, from);
+    QTest::mouseMove(window, from + QPoint(20, 0));
+    if (button == Qt::LeftButton) QTest::mouseRelease(window, button, {}, from + QPoint(20, 0));
+    user::Settle();
+    return Selected("EndFundletField");
+  };
+  EXPECT_EQ(drag(Qt::LeftButton), "100,000");
+  EXPECT_NE(drag(Qt::LeftButton), "100,000");
+  user::Click(Found("StartYearField"));
+  drag(Qt::RightButton);
+  user::OpenContextMenu();
+  QApplication::activePopupWidget()->close();
+  EXPECT_NE(drag(Qt::LeftButton), "100,000") << "the menu has taken the other button's release";
+}
+
+TEST_F(Controls, LetTheCancelButtonBePressedByEscapeAlone) {
+  int pressed = 0;
+  Main().SaveButton().SetCancel(true);
+  Main().SaveButton().Action = [&](PushButton&) { ++pressed; };
+  user::Key(Qt::Key_Escape, Qt::ShiftModifier);
+  EXPECT_EQ(pressed, 0);
+  user::Key(Qt::Key_Escape);
+  EXPECT_EQ(pressed, 1);
+}
+
+TEST_F(Controls, BringADialogToTheFrontWhenTheyArePressedBeneathIt) {
+  CalculateRefused([](QWidget& dialog) {
+    const std::pair<std::function<void()>, bool> inputs[] = {
+        {[] { QTest::mouseMove(Main().Native().windowHandle(), QPoint(9, 9)); }, false},
+        {[] { user::Click(Found("StartYearField")); }, true},
+        {[] { QTest::keyClick(Main().Native().windowHandle(), Qt::Key_Return); }, true},
+    };
+    for (const auto& [input, raises] : inputs) {
+      user::Activate(Main());
+      input();
+      EXPECT_EQ(QApplication::activeWindow() == &dialog, raises);
+    }
+    ByKey(Qt::Key_Escape)(dialog);
+  });
+  EXPECT_EQ(FocusName(), "StartAgeField");
+}
+
+}  // namespace
+}  // namespace fundlet
