@@ -3,6 +3,7 @@
 #include "services/background.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
+#include "ui/help_window.h"
 
 namespace fundlet {
 namespace {
@@ -140,6 +141,21 @@ TEST_F(HeldInput, ComesAfterTheComputationInItsOrderAndNeverInsideIt) {
   EXPECT_FALSE(cancelled_);
   EXPECT_TRUE(QTest::qWaitFor([] { return Text("StartYearField") == "ab"; }));
   EXPECT_EQ(log_, (Log{"begin", "end", "begin", "end", "shortcut", "other", "other"}));
+}
+
+TEST_F(HeldInput, ATouchOfTheHelpTextActsAfterTheComputation) {
+  user::Key(Qt::Key_F1);
+  user::Key(Qt::Key_Tab);
+  user::Activate(Main());
+  aHelpWindow& help = *GlobalModule::HelpWindow;
+  help.TextField().GotFocus = [this](TextArea&) { log_.push_back("touched"); };
+  Compute([&] {
+    user::Activate(help);
+    Tap(*Found<QPlainTextEdit>("TextField").viewport());
+    user::Settle();
+    EXPECT_EQ(log_, Log{"begin"});
+  });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return log_.back() == "touched"; }));
 }
 
 TEST_F(HeldInput, OnlyTheCancellingKeysCancelAndOnlyTheComputationThatRuns) {

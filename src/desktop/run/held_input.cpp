@@ -45,6 +45,11 @@ bool IsUserInput(const QEvent& event) {
   }
 }
 
+bool IsTouch(const QEvent& event) {
+  return event.type() == QEvent::TouchBegin || event.type() == QEvent::TouchUpdate ||
+         event.type() == QEvent::TouchEnd;
+}
+
 bool IsKey(const QEvent& event) {
   return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
          event.type() == QEvent::ShortcutOverride;
@@ -136,6 +141,11 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
   // A request to quit from the desktop environment closes an open message, and the handler that has
   // opened it goes on. The request must also end the program, even during the start.
   if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
+  // Some widgets would accept the touch, and it would act at once. Ignored, it becomes a click.
+  if (IsTouch(*event) && object->isWindowType()) {
+    event->ignore();
+    return MustHold() || ModalDialog::Blocks(object, *event);
+  }
   if (!IsUserInput(*event)) return false;
   if (IsUnmarkedRepeat(object, *event)) {
     DeliverAsRepeat(object, *event);
