@@ -18,10 +18,8 @@ namespace fundlet {
 
 namespace {
 
-// How often a computation lets Qt deliver events. The yields between two ticks, which look at the
-// clock, take some tenths of a millisecond.
-constexpr qint64 kPumpMilliseconds = 8;
-constexpr int kYieldsPerTick = 20'000;
+// How often a computation lets Qt deliver events: so many yields take some milliseconds.
+constexpr int kYieldsPerTick = 500'000;
 
 // How long a click waits for the activation of its window, which the desktop may refuse.
 constexpr int kActivationTimeoutMs = 200;
@@ -83,16 +81,9 @@ HeldInput::HeldInput() {
 HeldInput::~HeldInput() { SetBackgroundTask(nullptr); }
 
 int HeldInput::BackgroundTick() {
-  RunState::Of<HeldInput>().PumpIfDue();
-  return kYieldsPerTick;
-}
-
-void HeldInput::PumpIfDue() {
-  const bool due = !since_pump_.isValid() || since_pump_.elapsed() >= kPumpMilliseconds;
-  if (!due || pumping_ || !Gate().Busy()) return;
-  const QScopedValueRollback pumping(pumping_, true);
+  const QScopedValueRollback pumping(RunState::Of<HeldInput>().pumping_, true);
   QCoreApplication::processEvents();
-  since_pump_.start();
+  return kYieldsPerTick;
 }
 
 bool HeldInput::MustHold() const {

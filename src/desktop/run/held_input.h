@@ -4,7 +4,6 @@
 #include <memory>
 #include <utility>
 
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
@@ -40,7 +39,6 @@ class HeldInput : public QObject {
   };
 
   static int BackgroundTick();
-  void PumpIfDue();
   bool IsUnmarkedRepeat(QObject* object, const QEvent& event);
   static void DeliverAsRepeat(QObject* object, QEvent& event);
   bool MustHold() const;
@@ -54,7 +52,6 @@ class HeldInput : public QObject {
   QPointer<QWindow> awaited_;  // the window whose activation a held click waits for
   QTimer activation_timer_;
   std::pair<quint32, quint64> last_release_;  // scan code and time stamp
-  QElapsedTimer since_pump_;
   bool pumping_ = false;
   bool replaying_ = false;
   bool replay_scheduled_ = false;
