@@ -77,6 +77,23 @@ open_wayland() {
   xdotool mousemove 4000 4000 sleep 0.5 mousemove 0 0 sleep 0.5
 }
 
+# Opens such a screen for programs of Windows, which wine runs: with a user of its own, who has
+# nothing yet. Sets windows_home, that user's folder.
+open_windows() {
+  open_screen "$1"
+  # Neither menu entries in this machine's desktop nor offers to download what wine has not brought.
+  export WINEDLLOVERRIDES='winemenubuilder.exe,mscoree,mshtml=' WINEDEBUG=-all
+  export WINEPREFIX=$screen_folder/wine
+  mkdir "$WINEPREFIX"
+  wineserver --foreground --persistent >"$screen_folder/wine.log" 2>&1 &
+  screen_processes+=($!)
+  wineboot --init >>"$screen_folder/wine.log" 2>&1 || fail 'wine did not start'
+  windows_home=$WINEPREFIX/drive_c/users/$(id -un)
+}
+
+# A file of this machine as programs of Windows name it.
+windows_path() { tr / '\\' <<<"Z:$1"; }
+
 on_wayland() { [ -n "${WAYLAND_DISPLAY:-}" ]; }
 
 # The windows on the Wayland desktop, the front one first: WINDOW PROCESS X Y RIGHT BOTTOM TITLE.

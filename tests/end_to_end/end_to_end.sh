@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The built program on a virtual screen, used by typed keys alone:
-# [SESSION=wayland] end_to_end.sh PROGRAM [PICTURES]
+# [SESSION=wayland|windows] end_to_end.sh PROGRAM [PICTURES]
 # Leaves the pictures of the README in the folder PICTURES, where one is named.
 set -euo pipefail
 program=$1
@@ -9,7 +9,10 @@ pictures=${2:-}
 
 session=${SESSION:-x11}
 need Xvfb openbox xdotool import
-[ "$session" = x11 ] || need weston
+case $session in
+  wayland) need weston ;;
+  windows) need wine ;;
+esac
 
 expect() { # WHAT EXPECTED FOUND
   [ "$2" = "$3" ] || fail "$1"$'\n'"  expected: $2"$'\n'"  found:    $3"
@@ -18,7 +21,7 @@ expect() { # WHAT EXPECTED FOUND
 # Starts the program and waits for its window. Sets process, main, and left and top, the place of the
 # content in the window.
 start_program() {
-  "$program" &
+  launch &
   process=$!
   screen_processes+=("$process")
   wait_for 60 other_window_of_is_active "$process" none || fail 'the window did not open'
@@ -26,7 +29,7 @@ start_program() {
   local x y width height
   read -r x y width height < <(window_place "$main")
   left=$(((width - 740) / 2))
-  expect 'width of the border' "$([ "$session" = x11 ] && echo 0 || echo 1)" "$left"
+  expect 'width of the border' "$([ "$session" = wayland ] && echo 1 || echo 0)" "$left"
   top=$((height - 220 - left))
 }
 
@@ -44,14 +47,70 @@ result_picture() { window_picture "$main" $((left + 490)) $((top + 137)) 212 20 
 result_picture_is() { [ "$(result_picture)" = "$1" ]; }
 result_picture_is_not() { ! result_picture_is "$1"; }
 
-# Saves the schedule by the shortcut and the dialog into a new file of that name.
-save_schedule() {
+# Types the name of a file of that folder into the save dialog, which the shortcut opens. Sets dialog.
+name_schedule() {
   press ctrl+s
   wait_for 20 other_window_of_is_active "$process" "$main" || fail 'no save dialog'
-  type_text "$folder/$1"
+  dialog=$(active_window)
+  type_text "$(typed_path "$folder/$1")"
   press Return
-  wait_for 20 is_active "$main" || fail 'the save dialog stayed'
-  wait_for 20 test -s "$folder/$1" || fail "no schedule in $1"
+}
+
+dialog_has_closed() { wait_for 20 is_active "$main" || fail 'the save dialog stayed'; }
+
+# The schedule of a plan of four years from 2010 on.
+typed_schedule() {
+  local i
+  for i in 'Start with 1 Jan 2010' 'Age on 1 Jan: 70 Years' 'Life Expectancy: 4 Years' 'COLA: 2.5%' \
+    'Initial Fundlet: $500,000' 'After-Tax Fundlet APR: 5.0%' \
+    'IInitial Social Security: $20,000' 'Terminal Fundlet: $100,000' ''; do
+    printf '%s\t\t\t\t\t%b' "$i" "$line_end"
+  done
+  printf '%s\t%s\t%s\t%s\t%s\t%s%b' \
+    Year 'Age on 1 Jan' 'Begining Balance' Draw 'Ending Balance' 'Age on 31 Dec' "$line_end" \
+    2010 70 500,000 131,468 411,522 71 "$line_end" 2011 71 411,522 134,755 315,666 72 "$line_end" \
+    2012 72 315,666 138,123 211,984 73 "$line_end" 2013 73 211,984 141,577 100,000 74 "$line_end"
+}
+
+typed_schedule_is_in() { typed_schedule | cmp -s - "$folder/$1"; }
+
+expect_typed_schedule() { # NAME
+  dialog_has_closed
+  wait_for 20 typed_schedule_is_in "$1" || expect "$1" "$(typed_schedule)" "$(cat "$folder/$1")"
+}
+
+# Asked whether a file may be replaced, the answer No leads back to the dialog with its name.
+replace_schedule() {
+  echo 'What stood there before.' >"$folder/typed.txt"
+  name_schedule typed.txt
+  wait_for 20 other_window_of_is_active "$process" "$dialog" || fail 'a file is replaced unasked'
+  press Escape
+  wait_for 20 is_active "$dialog" || fail 'Escape did not lead back to the save dialog'
+  expect 'file that may not be replaced' 'What stood there before.' "$(cat "$folder/typed.txt")"
+  press Return
+  wait_for 20 other_window_of_is_active "$process" "$dialog" || fail 'no second question'
+  press alt+y
+  expect_typed_schedule typed.txt
+}
+
+# A solve that would end in an alert and in a draw of 0, cancelled: the last draw is shown again.
+cancel_a_solve() {
+  local shown
+  shown=$(result_picture)
+  press ctrl+r
+  type_fields 2010 55 40 3 500,000 8 0 0
+  xdotool key --delay 0 Return Escape
+  sleep 1
+  is_active "$main" || fail 'Escape did not cancel the solve'
+  wait_for 20 result_picture_is "$shown" || fail 'a cancelled solve changed the result'
+}
+
+open_about() {
+  xdotool keydown alt sleep 0.4 key f sleep 0.4 keyup alt
+  press Up Return
+  wait_for 20 other_window_of_is_active "$process" "$main" || fail 'no About box'
+  press Escape
+  wait_for 20 is_active "$main" || fail 'Escape did not close the About box'
 }
 
 picture() { # NAME
@@ -96,12 +155,27 @@ work_with_the_mouse() {
 is_wide() { [ "$(window_place "$1" | awk '{ print $3 }')" -gt 1000 ]; }
 
 trap close_screen EXIT
-if [ "$session" = x11 ]; then open_screen 1024x640; else open_wayland 1024x640; fi
+line_end='\n'
+launch() { exec "$program"; }
+typed_path() { echo "$1"; }
+case $session in
+  x11) open_screen 1024x640 ;;
+  wayland) open_wayland 1024x640 ;;
+  windows)
+    open_windows 1024x640
+    parameters=$windows_home/AppData/Roaming/Fundlet.Preferences
+    line_end='\r\n'
+    launch() { exec wine "$program"; }
+    typed_path() { windows_path "$1"; }
+    ;;
+esac
 folder=$screen_folder
-parameters=$XDG_CONFIG_HOME/Fundlet.Preferences
+parameters=${parameters:-$XDG_CONFIG_HOME/Fundlet.Preferences}
 tab=$'\t'
 
-! ldd "$program" | grep -iE 'network|curl|ssl|http' || fail 'linked with what talks to a network'
+if [ "$session" != windows ] && ldd "$program" | grep -iE 'network|curl|ssl|http'; then
+  fail 'linked with what talks to a network'
+fi
 
 start_program
 expect 'title' Fundlet "$(window_title "$main")"
@@ -124,9 +198,9 @@ press ctrl+r
 wait_for 20 result_picture_is "$nothing_drawn" || fail 'recalling did not clear the result'
 type_fields 2010 70 4 2.5 500,000 5 20,000 100,000
 press Return
-save_schedule typed.txt
-expect 'last year of the typed plan' \
-  "2013${tab}73${tab}211,984${tab}141,577${tab}100,000${tab}74" "$(sed -n 14p "$folder/typed.txt")"
+name_schedule typed.txt
+expect_typed_schedule typed.txt
+replace_schedule
 if command -v soffice >/dev/null; then
   LC_ALL=C.UTF-8 soffice "-env:UserInstallation=file://$folder/profile" --headless \
     --infilter='Text - txt - csv (StarCalc):9,34,76,1' --outdir "$folder" --convert-to \
@@ -137,6 +211,8 @@ fi
 press ctrl+p
 remembered=3f9999999999999a411e8480000000003fa999999999999a40d388000000000040f86a0000000000
 expect_parameters 'after remembering' "07da4604$remembered"
+open_about
+cancel_a_solve
 
 press ctrl+r
 type_fields 2011
@@ -149,16 +225,18 @@ type_text 60
 press ctrl+p
 expect_parameters 'after typing over the refused age' "07db3c04$remembered"
 
-if [ "$session" = x11 ]; then press alt+F4; else work_with_the_mouse; fi
+if [ "$session" = wayland ]; then work_with_the_mouse; else press alt+F4; fi
 wait "$process" || fail "exit status $?"
 
 start_program
 type_text 2012
 press Return
 wait_for 20 result_picture_is_not "$nothing_drawn" || fail 'no result after a second start'
-save_schedule again.txt
+name_schedule again.txt
+dialog_has_closed
+wait_for 20 test -s "$folder/again.txt" || fail 'no schedule after a second start'
 expect 'first year after a second start' \
   "2012${tab}60${tab}500,000${tab}131,468${tab}411,522${tab}61" \
-  "$(sed -n 11p "$folder/again.txt")"
+  "$(sed -n 11p "$folder/again.txt" | tr -d '\r')"
 press ctrl+q
 wait "$process" || fail "exit status $?"
