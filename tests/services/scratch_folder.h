@@ -4,9 +4,12 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <random>
 #include <stdlib.h>
 #include <string>
+#ifndef _WIN32
 #include <unistd.h>
+#endif
 
 #include "services/folder_item.h"
 
@@ -22,14 +25,26 @@ inline std::string ErrorOf(const std::function<void()>& action) {
   return "";
 }
 
+// Sets an environment variable of this process.
+inline void SetVariable(const char* name, const std::string& value) {
+#ifdef _WIN32
+  _putenv_s(name, value.c_str());
+#else
+  setenv(name, value.c_str(), 1);
+#endif
+}
+
 // A new folder, which is also the user's preferences folder, until the object is destroyed.
 class ScratchFolder {
  public:
   ScratchFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "fundlet-XXXXXX";
-    path_ = mkdtemp(name.data());
+    std::filesystem::create_directory(path_);
     std::filesystem::permissions(path_, std::filesystem::perms{0777});
-    setenv("XDG_CONFIG_HOME", path_.c_str(), 1);
+#ifdef _WIN32
+    SetVariable("APPDATA", path_.string());
+#else
+    SetVariable("XDG_CONFIG_HOME", path_.string());
+#endif
   }
   ~ScratchFolder() { std::filesystem::remove_all(path_); }
 
@@ -46,9 +61,11 @@ class ScratchFolder {
   }
 
  private:
-  std::filesystem::path path_;
+  std::filesystem::path path_ = std::filesystem::temp_directory_path() /
+                                ("fundlet-" + std::to_string(std::random_device()()));
 };
 
+#ifndef _WIN32
 // Until its destruction, root has only the permissions of an ordinary user; other users keep
 // theirs.
 class OrdinaryUser {
@@ -63,5 +80,6 @@ class OrdinaryUser {
   }
   uid_t uid_ = geteuid();
 };
+#endif
 
 }  // namespace fundlet

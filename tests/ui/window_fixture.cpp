@@ -170,8 +170,8 @@ Answer BySaving(const std::string& path) {
 }
 
 FundletTest::FundletTest() {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  setenv("HOME", folder_.Path().c_str(), 1);
+  SetVariable("QT_QPA_PLATFORM", "offscreen");
+  SetVariable("HOME", folder_.Path().string());
 }
 
 FundletTest::~FundletTest() {
@@ -184,7 +184,7 @@ void FundletTest::UseScreen(int width, int height) {
                               std::to_string(width) + ", \"height\": " + std::to_string(height) +
                               R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
   const std::string platform = "offscreen:configfile=" + (folder_.Path() / "screen").string();
-  setenv("QT_QPA_PLATFORM", platform.c_str(), 1);
+  SetVariable("QT_QPA_PLATFORM", platform);
 }
 
 void FundletTest::Start(const QString& system_font) {
