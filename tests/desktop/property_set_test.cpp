@@ -19,7 +19,7 @@ using namespace std::string_literals;
 class Registry : public ::testing::Test {
  protected:
   void SetUp() override {
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    SetVariable("QT_QPA_PLATFORM", "offscreen");
     runtime_.Start([this] { RegisterApplication(application_); }, [this] { window_.emplace(); });
     window_->_AddControl("Sign", std::make_unique<Label>(*window_));
     window_->_AddControl("Entry", std::make_unique<TextField>(*window_));

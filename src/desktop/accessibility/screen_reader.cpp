@@ -164,6 +164,15 @@ void ScreenReader::Say(QWidget& widget, const QString& text) {
   Send(event);
 }
 
+#elif defined(Q_OS_WIN)
+
+// For a changed value that is a text, and for nothing else, Qt raises the event by which Windows
+// has a text spoken (UiaRaiseNotificationEvent).
+void ScreenReader::Say(QWidget& widget, const QString& text) {
+  QAccessibleValueChangeEvent event(&widget, text);
+  Send(event);
+}
+
 #else
 
 // Readers speak the name of a notification that comes to be shown. It is a child without a size of

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileSystemModel>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
@@ -38,9 +39,8 @@ class SaveWidget : public QFileDialog {
   SaveWidget(QWidget* parent, const QString& filter, const QString& proposed_name)
       : QFileDialog(parent, "Save", StartFolder(), filter), proposed_name_(proposed_name) {
     setAcceptMode(AcceptSave);
-#ifdef Q_OS_LINUX
-    UseQtsDialog();
-#endif
+    const QString platform = QGuiApplication::platformName();
+    if (platform != "windows" && platform != "cocoa") UseQtsDialog();
     selectFile(proposed_name);
   }
 

@@ -107,8 +107,10 @@ void HeldInput::StopAwaiting() {
 
 // If the release and the press of an auto-repeat reach Qt separately, Qt takes them for a release
 // and a new press. Equal time stamps give them away: nobody does both within a millisecond.
+// On Windows Qt keeps both together, and the time stamps are those of Qt's own handling.
 bool HeldInput::IsUnmarkedRepeat(QObject* object, const QEvent& event) {
   if (!IsKey(event) || !object->isWindowType()) return false;
+  if (QGuiApplication::platformName() == "windows") return false;
   const auto& key = static_cast<const QKeyEvent&>(event);
   // Keys that come through the accessibility service carry no time stamp.
   if (key.nativeScanCode() == 0 || key.timestamp() == 0) return false;

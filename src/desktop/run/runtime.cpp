@@ -15,6 +15,7 @@
 #include "desktop/drawing/program_style.h"
 #include "desktop/run/held_input.h"
 #include "desktop/run/key_rules.h"
+#include "desktop/run/lost_releases.h"
 
 namespace fundlet {
 
@@ -100,7 +101,7 @@ Runtime::~Runtime() {
 
 void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {
   early();
-#ifdef Q_OS_LINUX
+#ifndef Q_OS_MACOS
   // The style whose controls fit the heights of the layout.
   QApplication::setStyle(new ProgramStyle);
 #endif
@@ -116,6 +117,9 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setDesktopFileName(ToQt(App().DesktopFile));
   QApplication::setQuitOnLastWindowClosed(false);
   RunState::Of<KeyRules>();
+#ifdef Q_OS_WIN
+  RunState::Of<LostReleases>();
+#endif
   auto& held_input = RunState::Of<HeldInput>();
   RunState::Of<ScreenReader>();
   const auto commit_composition = [] {

@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
+#include <QFileDialog>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
@@ -35,15 +37,27 @@ class OpenDialog {
   OpenDialog& operator=(const OpenDialog&) = delete;
 };
 
+// Whether Windows shows the dialog. Qt opens such a dialog in QDialog::exec() alone, and not where
+// it is non-modal.
+bool IsShownByWindows(const QDialog& dialog) {
+  const auto* files = qobject_cast<const QFileDialog*>(&dialog);
+  return QGuiApplication::platformName() == "windows" && files != nullptr &&
+         !files->testOption(QFileDialog::DontUseNativeDialog);
+}
+
 }  // namespace
 
 void ModalDialog::Run(QDialog& dialog) {
+  const OpenDialog open(dialog);
+  if (IsShownByWindows(dialog)) {
+    dialog.exec();
+    return;
+  }
   QEventLoop loop;
   QObject::connect(&dialog, &QDialog::finished, &loop, [&] {
     Dismiss(&dialog);
     loop.quit();
   });
-  const OpenDialog open(dialog);
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
   OwnFrame::PutRound(dialog);

@@ -10,7 +10,9 @@ namespace fundlet {
 
 // A dialog that the user has to answer before working on in the program's windows. It is not modal
 // (Qt::ApplicationModal), because Qt then refuses a window beneath to be closed: here the
-// windows take no input while it is open, but closing one dismisses the dialog and goes ahead.
+// windows take no input while it is open, but closing one dismisses the dialog and goes ahead. Only
+// a dialog that Windows itself shows keeps the windows beneath from being closed, as it does in
+// every program.
 class ModalDialog {
  public:
   // Shows the dialog, which belongs to its parentWidget, and returns when it has been answered.
