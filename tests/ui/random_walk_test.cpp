@@ -12,16 +12,6 @@ constexpr const char* kTexts[] = {"5", "0", ".", ",", "-", "99.99", "12", "1e9",
 constexpr Qt::Key kKeys[] = {Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Backspace, Qt::Key_Return,
                              Qt::Key_Space, Qt::Key_Escape, Qt::Key_Left,      Qt::Key_Delete};
 constexpr std::string_view kLetters = "SPRZXCVAE248";
-constexpr const char* kItems[] = {"Save Schedule",
-                                  "Remember Parameters",
-                                  "Recall Parameters",
-                                  "About Fundlet…",
-                                  "Undo",
-                                  "Cut",
-                                  "Copy",
-                                  "Paste",
-                                  "Clear",
-                                  "Fundlet Help…"};
 constexpr const char* kControls[] = {"StartAgeField",   "YearsLeftField",  "FundletAPRField",
                                      "EndFundletField", "CalculateButton", "PrintButton",
                                      "SaveButton",      "RestoreButton",   "AnnualDrawField"};
@@ -53,15 +43,20 @@ class RandomWalk : public StartedTest {
       user::Key(Qt::Key_Tab);
     }
   }
-  static void ChooseItem(int item) {
-    user::Choose(item < 4 ? "File" : item < 9 ? "Edit" : "Help", kItems[item]);
+  void ChooseItem() {
+    static const QStringList menus[] = {
+        {"File", "Save Schedule", "Remember Parameters", "Recall Parameters", "About Fundlet…"},
+        {"Edit", "Undo", "Cut", "Copy", "Paste", "Clear"},
+        {"Help", "Fundlet Help…"}};
+    const QStringList& menu = OneOf(menus);
+    user::Choose(menu.front(), OneOf(menu.mid(1)));
   }
   void Step() {
     const int kind = Below(20);
     if (kind < 6) return user::Type(OneOf(kTexts));
     if (kind < 11) return user::Key(OneOf(kKeys));
     if (kind < 14) return user::Shortcut(static_cast<Qt::Key>(OneOf(kLetters)));
-    if (kind < 16) return ChooseItem(Below(std::size(kItems)));
+    if (kind < 16) return ChooseItem();
     if (kind < 18) return user::Click(Found(OneOf(kControls)));
     return kind == 18 ? SwitchWindow() : TypeAPlanThatPasses();
   }
