@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
@@ -74,7 +75,13 @@ class FrameWidget : public QWidget {
 
  protected:
   bool eventFilter(QObject* /*object*/, QEvent* event) override {
-    if (event->type() == QEvent::Resize) Fit();
+    if (event->type() == QEvent::Enter) dragged_ = false;
+    if (event->type() == QEvent::Resize) {
+      // While the user drags an edge, the desktop may ask for less than xdg_toplevel.set_min_size
+      // says, and Qt 6.8 takes it. At other times any size has to be taken.
+      if (dragged_) window_.resize(window_.size().expandedTo(window_.minimumSize()));
+      Fit();
+    }
     const bool shows = event->type() == QEvent::WindowActivate ||
                        event->type() == QEvent::WindowDeactivate ||
                        event->type() == QEvent::WindowTitleChange;
@@ -102,7 +109,7 @@ class FrameWidget : public QWidget {
     if (event->button() != Qt::LeftButton) return;
     const QPointF at = event->position();
     if (const Qt::Edges edges = EdgesAt(at)) {
-      window_.windowHandle()->startSystemResize(edges);
+      dragged_ = window_.windowHandle()->startSystemResize(edges);
     } else if (at.y() < TitleBottom()) {
       window_.windowHandle()->startSystemMove();
     }
@@ -151,6 +158,7 @@ class FrameWidget : public QWidget {
   QWidget& window_;
   bool resizeable_;
   int border_;
+  bool dragged_ = false;                   // by an edge, until the pointer is back in the window
   std::vector<QAbstractButton*> buttons_;  // from the right
 };
 
@@ -169,6 +177,8 @@ bool OwnFrame::PutRound(QWidget& window) {
                         native != nullptr && native->frameMargins().top() > 0;
   if (!qt_draws) return FrameOf(window) != nullptr;
   native->setFlags(native->flags() | Qt::FramelessWindowHint);
+  // A size grip within the window would resize it without the frame's knowing.
+  if (auto* dialog = qobject_cast<QDialog*>(&window)) dialog->setSizeGripEnabled(false);
   new FrameWidget(window);
   // A dialog settles its size anew for the frame.
   QCoreApplication::sendPostedEvents(&window, QEvent::LayoutRequest);
