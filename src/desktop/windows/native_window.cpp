@@ -1,5 +1,6 @@
 #include "desktop/windows/native_window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QApplication>
@@ -22,6 +23,9 @@ namespace fundlet {
 
 namespace {
 
+constexpr int kRingWidth = 2;
+constexpr int kRingMargin = 2 * kRingWidth;  // the ring, and some of the ground
+
 // The content area. It draws the ring round the control that has the focus, in the gap that the
 // layout leaves between the controls.
 class ContentWidget : public QWidget {
@@ -30,7 +34,6 @@ class ContentWidget : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    constexpr int kRingWidth = 2;
     const Control* ringed = window_.RingedControl();
     if (ringed == nullptr) return;
     QPainter painter(this);
@@ -64,7 +67,11 @@ NativeWindow::NativeWindow(WindowEvents& window) : window_(window) {
   content_ = new ContentWidget(window, centralWidget());
   centralWidget()->installEventFilter(this);
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
+  connect(qApp, &QApplication::focusChanged, this, &NativeWindow::ShiftToFocus);
 }
+
+// ~QWidget still emits focusChanged().
+NativeWindow::~NativeWindow() { disconnect(qApp, nullptr, this, nullptr); }
 
 NativeWindow* NativeWindow::Of(QObject* object) {
   if (auto* widget = qobject_cast<QWidget*>(object)) {
@@ -118,6 +125,7 @@ void NativeWindow::FitToContent() {
     setMaximumSize(((resizeable_ ? largest_ : content_size_) + outside_).boundedTo(largest));
   }
   content_->resize(content_size_);
+  ShiftToFocus();
   if (!isMaximized() && !isFullScreen()) resize(content_size_ + outside_);
 }
 
@@ -174,15 +182,31 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
-  const bool resized =
-      object == centralWidget() && event->type() == QEvent::Resize && resizeable_ && isVisible();
+  const bool resized = object == centralWidget() && event->type() == QEvent::Resize && isVisible();
   // The first show brings a resize to the size that the window was made with, which is none.
-  if (resized && centralWidget()->size() != content_size_) {
+  if (resized && resizeable_ && centralWidget()->size() != content_size_) {
     content_size_ = centralWidget()->size();
     content_->resize(content_size_);
     window_.Resized();
   }
+  if (resized) ShiftToFocus();
   return QMainWindow::eventFilter(object, event);
+}
+
+// Moves the content by as little as brings the focus into sight.
+void NativeWindow::ShiftToFocus() {
+  const QSize visible = centralWidget()->size();
+  QPoint place = content_->pos();
+  const QWidget* focused = focusWidget();
+  if (focused != nullptr && focused->parentWidget() == content_) {
+    const QMargins ring(kRingMargin, kRingMargin, kRingMargin, kRingMargin);
+    const QRect shown = focused->geometry().marginsAdded(ring);
+    place.setX(std::max(std::min(place.x(), visible.width() - shown.right() - 1), -shown.left()));
+    place.setY(std::max(std::min(place.y(), visible.height() - shown.bottom() - 1), -shown.top()));
+  }
+  const QSize hidden = (content_->size() - visible).expandedTo(QSize(0, 0));
+  content_->move(std::clamp(place.x(), -hidden.width(), 0),
+                 std::clamp(place.y(), -hidden.height(), 0));
 }
 
 }  // namespace fundlet

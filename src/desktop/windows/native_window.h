@@ -14,10 +14,11 @@ class WindowEvents;
 
 // Qt's side of a window: a main window whose central widget holds the content area. The
 // desktop may give the window another size than that of the content, which then stands at the top
-// left of a ground in its colour.
+// left of a ground in its colour. In a smaller window it is shifted so that the focus can be seen.
 class NativeWindow : public QMainWindow {
  public:
   explicit NativeWindow(WindowEvents& window);
+  ~NativeWindow() override;
 
   // The window that a QWidget or QWindow belongs to; null for those of dialogs.
   static NativeWindow* Of(QObject* object);
@@ -53,6 +54,7 @@ class NativeWindow : public QMainWindow {
  private:
   QSize Outside() const;  // what the window takes beyond its content
   void FitToContent();
+  void ShiftToFocus();
 
   WindowEvents& window_;
   QWidget* content_;
