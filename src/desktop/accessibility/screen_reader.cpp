@@ -42,13 +42,15 @@ bool ScreenReader::Keeps(const QAccessibleEvent& event) {
       if (whole) TellSoon();
       return whole;
     case QAccessible::PopupMenuEnd:
-      // Qt does not tell who has the keys again.
-      QMetaObject::invokeMethod(this, &ScreenReader::MenuHasClosed, Qt::QueuedConnection);
+      // Qt sends no focus event when a menu closes.
+      NotifyFocusLater();
       return false;
     case QAccessible::StateChanged:
-      // A reader waits to be told the focus in a window that has become the active one.
+      // After a window becomes active, a screen reader expects a focus event, which is sent again
+      // if it has been sent before.
       if (static_cast<const QAccessibleStateChangeEvent&>(event).changedStates().active) {
         known_ = {};
+        NotifyFocusLater();
       }
       return false;
     case QAccessible::TextInserted:
@@ -72,11 +74,14 @@ void ScreenReader::TellSoon() {
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
-void ScreenReader::MenuHasClosed() {
-  if (QApplication::activePopupWidget() != nullptr || QApplication::focusWidget() == nullptr)
-    return;
-  focused_ = QApplication::focusWidget();
-  TellSoon();
+void ScreenReader::NotifyFocusLater() {
+  const auto notify = [this] {
+    if (QApplication::activePopupWidget() != nullptr || QApplication::focusWidget() == nullptr)
+      return;
+    focused_ = QApplication::focusWidget();
+    TellSoon();
+  };
+  QMetaObject::invokeMethod(this, notify, Qt::QueuedConnection);
 }
 
 void ScreenReader::Tell() {

@@ -46,7 +46,7 @@ class ScreenReader : public QObject {
   static void Say(QWidget& widget, const QString& text);
 
   bool Keeps(const QAccessibleEvent& event);
-  void MenuHasClosed();
+  void NotifyFocusLater();  // where it is once the present event is done
   void TellSoon();
   void Tell();
 
