@@ -60,6 +60,9 @@ QPalette PaletteFor(const QColor& background) {
   palette.setColor(QPalette::PlaceholderText, dimmed);
   palette.setColor(QPalette::Highlight, selection);
   palette.setColor(QPalette::HighlightedText, Qt::white);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+  palette.setColor(QPalette::Accent, selection);
+#endif
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, dimmed);
   }

@@ -9,7 +9,7 @@ namespace fundlet {
 // theme of the desktop, so that every text can be read under any theme.
 QPalette PaletteFor(const QColor& background);
 
-// The style of the program where the desktop has none of its own.
+// The style of the program on Linux, in place of the desktop environment's.
 class ProgramStyle : public QProxyStyle {
  public:
   ProgramStyle();
