@@ -48,6 +48,8 @@ screen_processes+=($!)
 script -qfc 'orca --replace --debug-file /dev/tty -e speech' "$log" </dev/null >/dev/null 2>&1 &
 screen_processes+=($!)
 wait_for 60 is_heard 'Screen reader on'
+# It says so before it has asked for any event.
+wait_for 60 has_settled
 "$program" 2>"$screen_folder/program.log" &
 screen_processes+=($!)
 
