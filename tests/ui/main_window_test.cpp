@@ -56,6 +56,21 @@ TEST_F(MainWindow, TabGoesByTheTabIndexAndLeavesTheDimmedButtonOut) {
   }
 }
 
+TEST_F(MainWindow, ShiftsItsContentToTheFocusInATileThatIsTooSmall) {
+  NativeWindow& window = Main().Native();
+  const QSize full = window.size();
+  window.setMinimumSize(0, 0);
+  window.resize(260, 110);
+  user::Settle();
+  for (int control = 0; control < 11; ++control) {
+    const QWidget& focused = *QApplication::focusWidget();
+    EXPECT_EQ(focused.visibleRegion().boundingRect(), focused.rect()) << FocusName();
+    user::Key(Qt::Key_Tab);
+  }
+  window.resize(full);
+  EXPECT_EQ(window.Content().pos(), QPoint(0, 0));
+}
+
 TEST_F(MainWindow, ReturnSolvesTheDefaultPlanAndGoesBackToTheField) {
   Paints wheel(Found("Windmill"));
   Fill("StartFundletField", "1000000");
