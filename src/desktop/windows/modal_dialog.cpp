@@ -58,6 +58,8 @@ void ModalDialog::Run(QDialog& dialog) {
     Dismiss(&dialog);
     loop.quit();
   });
+  // A message at the start comes before any window has been painted, which reads the icon.
+  NativeWindow::ReadProgramIcon();
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
   OwnFrame::PutRound(dialog);

@@ -48,14 +48,6 @@ class ContentWidget : public QWidget {
   const WindowEvents& window_;
 };
 
-void ReadProgramIcon() {
-  QIcon icon;
-  for (const int size : {16, 32, 64, 128}) {
-    icon.addFile(ToQt(App().IconFiles).arg(size), QSize(size, size));
-  }
-  QApplication::setWindowIcon(icon);
-}
-
 }  // namespace
 
 NativeWindow::NativeWindow(WindowEvents& window) : window_(window) {
@@ -82,6 +74,15 @@ NativeWindow* NativeWindow::Of(QObject* object) {
     if (window != nullptr && window->windowHandle() == object) return window;
   }
   return nullptr;
+}
+
+void NativeWindow::ReadProgramIcon() {
+  if (!QApplication::windowIcon().isNull()) return;
+  QIcon icon;
+  for (const int size : {16, 32, 64, 128}) {
+    icon.addFile(ToQt(App().IconFiles).arg(size), QSize(size, size));
+  }
+  QApplication::setWindowIcon(icon);
 }
 
 void NativeWindow::SetContentSize(int width, int height) {

@@ -23,6 +23,9 @@ class NativeWindow : public QMainWindow {
   // The window that a QWidget or QWindow belongs to; null for those of dialogs.
   static NativeWindow* Of(QObject* object);
 
+  // Gives all windows the program's icon, unless they have it.
+  static void ReadProgramIcon();
+
   QWidget& Content() const { return *content_; }
 
   void SetContentSize(int width, int height);
