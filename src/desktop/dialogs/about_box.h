@@ -2,8 +2,8 @@
 
 namespace fundlet {
 
-// Shows Qt's about box with the program's picture, name and version, over the frontmost
-// window, until the user closes it.
+// Shows a box with the program's icon, name and version over the frontmost window, or by itself if
+// there is none. Returns when the user has closed it.
 void ShowAboutBox();
 
 }  // namespace fundlet

@@ -19,9 +19,10 @@ class MessageDialog {
   int Icon = 0;  // kCaution, or 0 for none
   MessageDialogButton ActionButton;
 
-  // Shows the message over the given window, or by itself where there is none, and returns when it
-  // has been dismissed: by its button, Return, Escape or its close box. The window is activated
-  // once the handler that called this has returned.
+  // Shows the message over the window, or by itself if that is null. Returns ActionButton when the
+  // message has been dismissed by its button, Return, Escape or its close box, or because the
+  // window beneath or the program was closed. Event_Activate of the window follows when the handler
+  // that called this has returned.
   const MessageDialogButton& ShowModalWithin(Window* window);
 };
 

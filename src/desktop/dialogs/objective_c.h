@@ -1,9 +1,8 @@
 #pragma once
 
-// The few operations by which the program asks the operating system for something by name: it
-// looks a function up in a library and sends messages to objects. On a Mac they are the system's
-// own. Elsewhere the desktop answers them itself, for the one thing that is asked: the standard
-// about panel.
+// The operations by which the program looks up a function in a library and sends messages to
+// objects, both by name. On a Mac they are the system's own. Elsewhere src/desktop imitates those
+// that show the standard about panel, which are all that the program uses.
 namespace fundlet {
 
 using Id = void*;              // an object, or a class, which is an object too
@@ -11,13 +10,14 @@ using Selector = const void*;  // the name of a message, the same pointer for th
 
 Selector sel_registerName(const char* name);
 
-// Sends a message without arguments; null for an object or a message that is not known.
+// Sends a message without arguments and returns the result. Where it is imitated, null for every
+// other object or message than those of the about panel.
 Id objc_msgSend(Id receiver, Selector message);
 
-// The function of that name in the library; null where it is not found.
+// The function of that name in the library; null if it is not found.
 void* LoadFunctionPointerFromLibrary(const char* function, const char* library);
 
-// The same, as the platform at hand finds it; for LoadFunctionPointerFromLibrary alone.
+// The part of LoadFunctionPointerFromLibrary that differs between platforms.
 void* FindFunction(const char* function, const char* library);
 
 // Raises the RuntimeException for a function that was not found.

@@ -8,24 +8,25 @@ class QWidget;
 
 namespace fundlet {
 
-// A dialog that the user has to answer before working on in the program's windows. It is not modal
-// (Qt::ApplicationModal), because Qt then refuses a window beneath to be closed: here the
-// windows take no input while it is open, but closing one dismisses the dialog and goes ahead. Only
-// a dialog that Windows itself shows keeps the windows beneath from being closed, as it does in
-// every program.
+// A dialog that blocks input to the windows and dialogs beneath it. Qt's own modality
+// (Qt::ApplicationModal) would also keep a window beneath from being closed: here closing one
+// dismisses the dialog. Only a dialog that Windows itself shows keeps the windows beneath from being
+// closed, as it does in every program.
 class ModalDialog {
  public:
-  // Shows the dialog, which belongs to its parentWidget, and returns when it has been answered.
+  // Shows the dialog, which belongs to its parentWidget(), and returns when it is finished. The
+  // dialogs over it are then dismissed, too.
   static void Run(QDialog& dialog);
 
-  // The largest size that a dialog may have on its screen, without the desktop's frame.
+  // The size in pixels that a dialog may have at most, so that it fits its screen with its frame.
   static QSize LargestSize(const QWidget& dialog);
 
   static bool IsOpen();
-  // Whether input to the object has to wait for a dialog; then the dialog is brought to the front.
-  // Also whether it is a key, held down since before, that would answer the dialog unread.
+  // Whether to discard an event for the object, because a dialog is open: input to what lies
+  // beneath it (a click or a key there raises the dialog), and the repeats of a held key that would
+  // answer the dialog unread. Never a Close event.
   static bool Blocks(QObject* object, const QEvent& event);
-  // Answers the open dialogs of a window as their close boxes do; null stands for those of all.
+  // Rejects the open dialogs whose parent the window is, or all open dialogs if it is null.
   static void Dismiss(const QWidget* owner);
 };
 
