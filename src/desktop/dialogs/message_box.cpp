@@ -6,7 +6,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-#include "desktop/windows/modal_dialog.h"
+#include "desktop/windows/blocking_dialog.h"
 
 namespace fundlet {
 
@@ -33,7 +33,7 @@ void MessageBox::AddOnlyButton(const QString& caption) {
 // QMessageBox sets its size when it is shown, and then whenever its text changes.
 void MessageBox::showEvent(QShowEvent* event) {
   QMessageBox::showEvent(event);
-  const int highest = ModalDialog::LargestSize(*this).height();
+  const int highest = BlockingDialog::LargestSize(*this).height();
   if (height() <= highest) return;
   const QString whole = text();
   AddFieldWithWholeText();

@@ -14,7 +14,7 @@
 #include "desktop/base/run_state.h"
 #include "desktop/dialogs/message_box.h"
 #include "desktop/dialogs/typed_path.h"
-#include "desktop/windows/modal_dialog.h"
+#include "desktop/windows/blocking_dialog.h"
 #include "desktop/windows/native_window.h"
 #include "desktop/windows/window.h"
 
@@ -85,7 +85,7 @@ class SaveWidget : public QFileDialog {
             &QItemSelectionModel::clearSelection);
     save_->installEventFilter(this);
     save_->setEnabled(true);
-    resize(sizeHint().boundedTo(ModalDialog::LargestSize(*this)));
+    resize(sizeHint().boundedTo(BlockingDialog::LargestSize(*this)));
   }
   bool UsesQtsDialog() const { return testOption(DontUseNativeDialog); }
 
@@ -126,7 +126,7 @@ class SaveWidget : public QFileDialog {
 
   void RunOver(MessageBox& box) {
     box.setWindowTitle(windowTitle());
-    ModalDialog::Run(box);
+    BlockingDialog::Run(box);
     activateWindow();
   }
 

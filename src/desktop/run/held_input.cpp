@@ -10,7 +10,7 @@
 #include "desktop/base/run_state.h"
 #include "desktop/drawing/own_frame.h"
 #include "desktop/run/key_rules.h"
-#include "desktop/windows/modal_dialog.h"
+#include "desktop/windows/blocking_dialog.h"
 #include "desktop/windows/native_window.h"
 #include "services/background.h"
 
@@ -95,7 +95,7 @@ bool HeldInput::ComesBeforeActivation(QObject* object, const QEvent& event) cons
   return QGuiApplication::platformName().startsWith("wayland") && !replaying_ &&
          event.type() == QEvent::MouseButtonPress && object->isWindowType() &&
          object != QGuiApplication::focusWindow() && NativeWindow::Of(object) != nullptr &&
-         !ModalDialog::IsOpen() && QApplication::activePopupWidget() == nullptr &&
+         !BlockingDialog::IsOpen() && QApplication::activePopupWidget() == nullptr &&
          !OwnFrame::Takes(object, event);
 }
 
@@ -133,11 +133,11 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) StopAwaiting();
   // A request to quit from the desktop environment closes an open message, and the handler that has
   // opened it goes on. The request must also end the program, even during the start.
-  if (event->type() == QEvent::Quit && object == qApp && ModalDialog::IsOpen()) Quit(0);
+  if (event->type() == QEvent::Quit && object == qApp && BlockingDialog::IsOpen()) Quit(0);
   // Some widgets would accept the touch, and it would act at once. Ignored, it becomes a click.
   if (IsTouch(*event) && object->isWindowType()) {
     event->ignore();
-    return MustHold() || ModalDialog::Blocks(object, *event);
+    return MustHold() || BlockingDialog::Blocks(object, *event);
   }
   if (!IsUserInput(*event)) return false;
   if (IsUnmarkedRepeat(object, *event)) {
@@ -154,7 +154,7 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
     activation_timer_.start();
   }
   if (MustHold()) return Hold(object, event);
-  if (ModalDialog::Blocks(object, *event)) {
+  if (BlockingDialog::Blocks(object, *event)) {
     event->accept();
     return true;
   }

@@ -21,7 +21,7 @@ namespace fundlet {
 // On Wayland a click reaches a window before the activation that it causes. The click is held until
 // the activation has set the focus.
 //
-// Also discards the input to windows beneath an open dialog (ModalDialog::Blocks), and marks key
+// Also discards the input to windows beneath an open dialog (BlockingDialog::Blocks), and marks key
 // repeats that Qt does not mark.
 class HeldInput : public QObject {
  public:

@@ -11,7 +11,7 @@
 #include "desktop/base/screen.h"
 #include "desktop/controls/keys.h"
 #include "desktop/controls/push_button.h"
-#include "desktop/windows/modal_dialog.h"
+#include "desktop/windows/blocking_dialog.h"
 #include "desktop/windows/native_window.h"
 
 namespace fundlet {
@@ -188,7 +188,7 @@ void Window::Deactivated() {
 }
 
 void Window::CloseAsked() {
-  ModalDialog::Dismiss(EndsProgram() ? nullptr : native_.get());
+  BlockingDialog::Dismiss(EndsProgram() ? nullptr : native_.get());
   Gate().Enter("", [this] { Close(); });
 }
 
@@ -230,7 +230,7 @@ void Window::ShowEditMenu(const QPoint& place) {
 QWidget& Window::Content() const { return native_->Content(); }
 
 void Window::RunDialog(QDialog& dialog, Window* window) {
-  ModalDialog::Run(dialog);
+  BlockingDialog::Run(dialog);
   if (window == nullptr) return;
   window->native_->activateWindow();
   window->Activated();
@@ -273,7 +273,7 @@ Control* Window::EditTarget(EditCommand command) const {
 
 void Window::UpdateMenuItems() {
   // While a message is open, a field may still show a value that the handler beneath has replaced.
-  if (ModalDialog::IsOpen()) return;
+  if (BlockingDialog::IsOpen()) return;
   Gate().EnterWithin([this] {
     MenuBar().ForEach([this](MenuItem& item) {
       if (HasHandler(item)) {
@@ -288,7 +288,7 @@ void Window::UpdateMenuItems() {
 }
 
 void Window::Choose(MenuItem& item) {
-  if (ModalDialog::IsOpen()) return;
+  if (BlockingDialog::IsOpen()) return;
   UpdateMenuItems();
   if (!item.Enabled()) return;
   Gate().Enter(item.Text, [this, &item] {

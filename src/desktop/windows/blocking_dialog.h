@@ -12,7 +12,7 @@ namespace fundlet {
 // (Qt::ApplicationModal) would also keep a window beneath from being closed: here closing one
 // dismisses the dialog. Only a dialog that Windows itself shows keeps the windows beneath from being
 // closed, as it does in every program.
-class ModalDialog {
+class BlockingDialog {
  public:
   // Shows the dialog, which belongs to its parentWidget(), and returns when it is finished. The
   // dialogs over it are then dismissed, too.

@@ -1,4 +1,4 @@
-#include "desktop/windows/modal_dialog.h"
+#include "desktop/windows/blocking_dialog.h"
 
 #include <algorithm>
 #include <vector>
@@ -47,7 +47,7 @@ bool IsShownByWindows(const QDialog& dialog) {
 
 }  // namespace
 
-void ModalDialog::Run(QDialog& dialog) {
+void BlockingDialog::Run(QDialog& dialog) {
   const OpenDialog open(dialog);
   if (IsShownByWindows(dialog)) {
     dialog.exec();
@@ -68,12 +68,12 @@ void ModalDialog::Run(QDialog& dialog) {
   loop.exec();
 }
 
-QSize ModalDialog::LargestSize(const QWidget& dialog) {
+QSize BlockingDialog::LargestSize(const QWidget& dialog) {
   constexpr QSize kFrame(4, 40);  // at least that of every desktop
   return dialog.screen()->availableSize() - kFrame;
 }
 
-bool ModalDialog::IsOpen() { return !OpenDialogs().empty(); }
+bool BlockingDialog::IsOpen() { return !OpenDialogs().empty(); }
 
 namespace {
 
@@ -103,7 +103,7 @@ bool IsHeldAnswer(QObject* object, const QEvent& event) {
 
 }  // namespace
 
-bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
+bool BlockingDialog::Blocks(QObject* object, const QEvent& event) {
   if (IsOpen() && IsHeldAnswer(object, event)) return true;
   if (!IsOpen() || event.type() == QEvent::Close || !IsBeneath(object)) return false;
   if (OwnFrame::Takes(object, event)) return false;
@@ -114,7 +114,7 @@ bool ModalDialog::Blocks(QObject* object, const QEvent& event) {
   return true;
 }
 
-void ModalDialog::Dismiss(const QWidget* owner) {
+void BlockingDialog::Dismiss(const QWidget* owner) {
   std::vector<QDialog*> dialogs = OpenDialogs();
   std::reverse(dialogs.begin(), dialogs.end());
   for (QDialog* dialog : dialogs) {
