@@ -33,15 +33,15 @@ void ClickItem(const QString& text) {
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   if (menu == nullptr) throw std::runtime_error("no menu is open");
   const QPoint at = menu->actionGeometry(ActionNamed(*menu, text)).center();
-  // A menu takes no click before the mouse has moved.
+  // QMenu ignores a click until the mouse has moved within it.
   QTest::mouseMove(menu->windowHandle(), at - QPoint(3, 1));
   QTest::mouseMove(menu->windowHandle(), at);
   QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, at);
   Settle();
 }
 
-// What a window manager does, which this platform lacks: a popup does not take the keyboard from
-// its window, and when the window that has it closes, the front one gets it.
+// Does the work of a window manager, which the offscreen platform lacks: returns the keyboard focus
+// from a popup to its window, and from a closed window to the front one.
 void ManageKeyboard() {
   const QWindow* focused = QGuiApplication::focusWindow();
   if (focused != nullptr && focused->isVisible() && focused->type() != Qt::Popup) return;
@@ -113,7 +113,7 @@ void OpenMenu(const QString& menu) {
 
 void OpenContextMenu() {
   QWidget* widget = QApplication::focusWidget();
-  // A menu that opens beneath the pointer takes no click there before it has moved.
+  // QMenu ignores a click where the pointer was when the menu opened.
   QTest::mouseMove(widget->window()->windowHandle(), QPoint(1, 1));
   QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, widget->mapToGlobal(QPoint(5, 5)));
   QCoreApplication::sendEvent(widget, &event);
@@ -213,7 +213,7 @@ int FundletTest::RunWith(const std::function<void()>& action) {
 std::vector<std::string> FundletTest::TakeDialogs() { return std::exchange(shown_, {}); }
 
 void FundletTest::Watch() {
-  // Before anything else, so that it goes on while an answer runs an event loop of its own.
+  // Restarted first, because an answer may run an event loop of its own, in which dialogs open too.
   QTimer::singleShot(2, watchdog_.get(), [this] { Watch(); });
   QWidget* dialog = QApplication::activeWindow();
   if (qobject_cast<QDialog*>(dialog) == nullptr || dialog == handled_) return;

@@ -25,23 +25,23 @@
 
 namespace fundlet {
 
-// What a person does at the keyboard and with the mouse. Every event goes to a QWindow, so that
-// shortcuts, focus and popups take their real way; each action returns when what follows from it is
-// done.
+// The user's actions with keyboard and mouse. Each sends its events to a QWindow, so that Qt looks
+// for shortcuts, moves the focus and opens popups as for real input, and returns when the program
+// has processed every event that follows.
 namespace user {
 
-void Settle();
+void Settle();  // processes all pending events
 void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-void Shortcut(Qt::Key key);  // with the control key
+void Shortcut(Qt::Key key);  // the key with Control
 void Type(const std::string& text);
 void Replace(const std::string& text);                       // selects all, then types
-void Click(QWidget& widget, std::optional<QPoint> at = {});  // in its middle, where none is named
+void Click(QWidget& widget, std::optional<QPoint> at = {});  // at the middle by default
 void Activate(const Window& window);
 void CloseBox(QWidget& window);
-// Goes to a window that is not the program's, and back.
+// Activates a window that is not the program's, calls `meanwhile`, and activates the main window.
 void VisitAnotherWindow(const std::function<void()>& meanwhile = [] {});
-// A menu on the active window's bar, or of the widget that has the focus, and an item of the open
-// menu; texts are as shown.
+// Menus and items are given by the texts shown: a menu of the active window's menu bar, the context
+// menu of the focused widget, an item of the open menu, and both in one.
 void OpenMenu(const QString& menu);
 void OpenContextMenu();
 void Pick(const QString& item, const QString& subitem = "");
@@ -49,7 +49,7 @@ void Choose(const QString& menu, const QString& item, const QString& subitem = "
 
 }  // namespace user
 
-// The widget of that object name in a visible window; the test ends where there is none.
+// The widget with that object name in a visible window; std::runtime_error if there is none.
 template <typename Widget = QWidget>
 Widget& Found(const QString& name) {
   for (const QWidget* top : QApplication::topLevelWidgets()) {
@@ -58,7 +58,7 @@ Widget& Found(const QString& name) {
   }
   throw std::runtime_error("no widget " + name.toStdString());
 }
-// Counts how often a widget is painted.
+// Counts the paint events of a widget.
 struct Paints : QObject {
   explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
   bool eventFilter(QObject* /*object*/, QEvent* event) override {
@@ -68,17 +68,18 @@ struct Paints : QObject {
   int count = 0;
 };
 int VisibleWindows(const QString& title);
-std::string FocusName();  // the object name of the widget that has the focus, empty for none
+std::string FocusName();  // the focused widget's object name; empty if there is none
 
-// How a person answers a dialog.
+// Answers a dialog as the user would.
 using Answer = std::function<void(QWidget& dialog)>;
 Answer ByKey(Qt::Key key);
-Answer ByButton();  // a click on its default button
+Answer ByButton();  // clicks the default button
 Answer ByCloseBox();
-Answer BySaving(const std::string& path);  // in the save dialog: pastes the path, presses Return
+Answer BySaving(
+    const std::string& path);  // pastes the path into the save dialog and presses Return
 
-// The program on a desktop of its own, with a preferences folder of its own. A dialog that no test
-// expects is closed and fails the test.
+// Runs the program on Qt's offscreen platform with an empty preferences folder. A dialog without an
+// expected answer is closed and fails the test.
 class FundletTest : public ::testing::Test {
  protected:
   FundletTest();
@@ -86,12 +87,12 @@ class FundletTest : public ::testing::Test {
 
   void UseScreen(int width, int height);  // in pixels; to be called before Start
   void Start(const QString& system_font = "");
-  // Runs the event loop with the action as its first event, until Quit; gives the exit status.
+  // Runs the event loop, which calls `action` first, until Quit. Returns the exit status.
   int RunWith(const std::function<void()>& action);
-  void End();  // ends the run; the preferences folder stays
+  void End();  // ends the run and keeps the preferences folder for the next
   void ExpectDialog(Answer answer) { expected_.push_back(std::move(answer)); }
   void ForgetExpected() { expected_.clear(); }
-  std::vector<std::string> TakeDialogs();  // the texts of those shown since the last call
+  std::vector<std::string> TakeDialogs();  // the texts of the dialogs since the last call
 
   static aFundletWindow& Main() { return aFundletWindow::Instance(); }
   static Plan& ThePlan() { return Main().ThePlan(); }
@@ -102,10 +103,11 @@ class FundletTest : public ::testing::Test {
     return Found<QLineEdit>(field).selectedText().toStdString();
   }
   static std::string Result() { return Main().AnnualDrawField().Text(); }
-  // Goes to the field by Tab and types over what it holds.
+  // Moves the focus to the field by Tab and replaces its text by typing.
   static void Fill(const QString& field, const std::string& text);
   static void Calculate() { user::Key(Qt::Key_Return); }
-  void CalculateRefused(Answer answer = ByKey(Qt::Key_Escape));  // for an age of 51 years
+  // Calculates with an age of 51 years, which is refused, and answers the message.
+  void CalculateRefused(Answer answer = ByKey(Qt::Key_Escape));
 
   ScratchFolder folder_;
 
@@ -120,7 +122,7 @@ class FundletTest : public ::testing::Test {
   QWidget* handled_ = nullptr;
 };
 
-// A program already started, with the defaults.
+// Starts the program with the default parameters.
 class StartedTest : public FundletTest {
  protected:
   void SetUp() override { Start(); }
