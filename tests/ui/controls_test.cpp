@@ -1,5 +1,4 @@
 #include <QAccessible>
-#include <QContextMenuEvent>
 
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
@@ -106,22 +105,14 @@ TEST_F(Controls, TellAndTakeTheSelectionOfAFieldForAScreenReader) {
 
 TEST_F(Controls, KeepTheSelectionOfThePressThatBringsTheFocus) {
   QWidget& field = Found("EndFundletField");
-  const auto drag = [&](Qt::MouseButton button) {
-    QWindow* window = field.window()->windowHandle();
-    const QPoint from = field.mapTo(field.window(), QPoint(6, 10));
-    QTest::mousePress(window, button, {}, from);
+  QWindow* window = field.window()->windowHandle();
+  const QPoint from = field.mapTo(field.window(), QPoint(6, 10));
+  for (const bool brings_focus : {true, false}) {
+    QTest::mousePress(window, Qt::LeftButton, {}, from);
     QTest::mouseMove(window, from + QPoint(20, 0));
-    if (button == Qt::LeftButton) QTest::mouseRelease(window, button, {}, from + QPoint(20, 0));
-    user::Settle();
-    return Selected("EndFundletField");
-  };
-  EXPECT_EQ(drag(Qt::LeftButton), "100,000");
-  EXPECT_NE(drag(Qt::LeftButton), "100,000");
-  user::Click(Found("StartYearField"));
-  drag(Qt::RightButton);
-  user::OpenContextMenu();
-  QApplication::activePopupWidget()->close();
-  EXPECT_NE(drag(Qt::LeftButton), "100,000") << "the menu has taken the other button's release";
+    QTest::mouseRelease(window, Qt::LeftButton, {}, from + QPoint(20, 0));
+    EXPECT_EQ(Selected("EndFundletField") == "100,000", brings_focus);
+  }
 }
 
 TEST_F(Controls, LetTheCancelButtonBePressedByEscapeAlone) {

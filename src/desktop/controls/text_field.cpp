@@ -51,7 +51,6 @@ class FieldWidget : public FocusReporting<EntryWidget> {
   }
   // QLineEdit's own menu asks for the clipboard's content, and its owner may not answer.
   void contextMenuEvent(QContextMenuEvent* event) override {
-    press_selected_all_ = false;  // the release goes to the menu
     Owner().ShowEditMenu(event->globalPos());
   }
   void keyPressEvent(QKeyEvent* event) override {
