@@ -31,9 +31,9 @@ class Registry : public ::testing::Test {
   Runtime runtime_{"desktop_test"};
   std::optional<Window> window_;
 };
-using AppliedSet = Registry;
+using PropertySet = Registry;
 
-TEST_F(AppliedSet, ThatCannotBeAppliedNamesTheObjectAndThePropertyAfterSettingWhatComesBefore) {
+TEST_F(PropertySet, ErrorNamesObjectAndPropertyAndKeepsEarlierEntries) {
   const std::pair<std::string, std::string> cases[] = {
       {"MenuBarVisible \x01", "property “MenuBarVisible”: there is no such property"},
       {"Left \x01\0"s, "property “Left”: the set ends inside the value"},
@@ -54,7 +54,7 @@ TEST_F(AppliedSet, ThatCannotBeAppliedNamesTheObjectAndThePropertyAfterSettingWh
             "no place for the property “Caption”");
 }
 
-TEST_F(Registry, FindsControlsAndMenuItemsByNameOnlyAndEachOnce) {
+TEST_F(Registry, FindsControlsAndMenuItemsByUniqueNames) {
   MenuBar bar;
   auto menu = std::make_unique<MenuItem>();
   auto item = std::make_unique<MenuItem>();

@@ -19,7 +19,7 @@ std::vector<Way> Ways(const QString& button, const QString& item, Qt::Key key) {
           [=] { user::Key(key, Qt::ControlModifier); }};
 }
 
-TEST_F(Commands, ThatHaveAButtonWorkFromItTheMenuAndAKey) {
+TEST_F(Commands, WorkFromButtonMenuAndShortcut) {
   const auto remember = Ways("SaveButton", "Remember Parameters", Qt::Key_P);
   const auto recall = Ways("RestoreButton", "Recall Parameters", Qt::Key_R);
   const auto save = Ways("PrintButton", "Save Schedule", Qt::Key_S);
@@ -46,7 +46,7 @@ TEST_F(Commands, ThatHaveAButtonWorkFromItTheMenuAndAKey) {
 }
 
 // Qt runs neither of two commands with one shortcut.
-TEST_F(Commands, HaveAShortcutEach) {
+TEST_F(Commands, HaveDifferentShortcuts) {
   std::map<std::string, std::string> owners = {{"Cmd+E", "the key for help"}};
   Main().MenuBar().ForEach([&](const MenuItem& item) {
     if (item.KeyboardShortcut.empty()) return;
@@ -56,7 +56,7 @@ TEST_F(Commands, HaveAShortcutEach) {
   });
 }
 
-TEST_F(Commands, TheSaveDialogProposesANameWhereTheLastScheduleWentAndReplacesNothingUnasked) {
+TEST_F(Commands, ProposeTheLastFolderAndAskBeforeReplacingAFile) {
   const auto propose = [this](const char* folder, const Answer& answer) {
     ExpectDialog([=, this](QWidget& dialog) {
       EXPECT_EQ(static_cast<QFileDialog&>(dialog).selectedFiles().value(0).toStdString(),
@@ -79,7 +79,7 @@ TEST_F(Commands, TheSaveDialogProposesANameWhereTheLastScheduleWentAndReplacesNo
   EXPECT_EQ(folder_.Read("elsewhere/mine"), "old");
 }
 
-TEST_F(Commands, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
+TEST_F(Commands, ReportAFileThatCannotBeWrittenAndKeepTheTexts) {
   Fill("COLAField", "3");
   fs::remove(folder_.Path() / "Fundlet.Preferences");
   fs::create_directory(folder_.Path() / "Fundlet.Preferences");
@@ -92,7 +92,7 @@ TEST_F(Commands, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
   EXPECT_EQ(FocusName(), "COLAField");
 }
 
-TEST_F(Commands, TheLifeExpectancyIsThatOfTheAgeBeingTyped) {
+TEST_F(Commands, ComputeLifeExpectancyForTheAgeBeingTyped) {
   const std::pair<Way, const char*> cases[] = {
       {[] { user::Shortcut(Qt::Key_2); }, "14"},
       {[] { user::Shortcut(Qt::Key_4); }, "19"},
@@ -114,7 +114,7 @@ TEST_F(Commands, TheLifeExpectancyIsThatOfTheAgeBeingTyped) {
   }
 }
 
-TEST_F(Commands, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
+TEST_F(Commands, EditTheFocusedTextIfTheyCan) {
   const auto able = [](const char* item) {
     Main().UpdateMenuItems();
     return Main().MenuBar()._Lookup(item).Enabled();
@@ -137,7 +137,7 @@ TEST_F(Commands, TheEditItemsActOnTheFocusedTextWhenTheyCan) {
   EXPECT_EQ(after("Clear"), "7");
 }
 
-TEST_F(Commands, AboutShowsTheVersionOrTellsOfAFunctionThatIsNotFound) {
+TEST_F(Commands, ShowTheVersionOrReportAMissingFunction) {
   Fill("COLAField", "3");
   for (const bool found : {true, false}) {
     SimulateMissingLibraries(!found);
@@ -152,7 +152,7 @@ TEST_F(Commands, AboutShowsTheVersionOrTellsOfAFunctionThatIsNotFound) {
                    "was not found in the library “Cocoa”."}));
 }
 
-TEST_F(Commands, EachWayToCloseEndsTheProgramAlsoWithHelpOrAMessageOpen) {
+TEST_F(Commands, EndTheProgramEvenWithHelpOrAMessageOpen) {
   static const Way close_main = [] { user::CloseBox(*Found("StartYearField").window()); };
   const Answer by_closing_main = [](QWidget& /*dialog*/) { close_main(); };
   const Way endings[] = {

@@ -10,7 +10,7 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-// The program, with a default button that does what the test says.
+// The program with actions of the test in place of calculating and remembering.
 class Computation : public StartedTest {
  protected:
   void SetUp() override {
@@ -26,7 +26,7 @@ class Computation : public StartedTest {
     Main().CalculateButton().Action = [=](PushButton&) { action(); };
     Calculate();
   }
-  // A computation that yields until it is stopped; the events happen while it runs.
+  // Runs a computation that yields, calls `events` while it runs, and then stops it.
   void Compute(const std::function<void()>& events) {
     bool stopped = false;
     int running = 0;
@@ -46,7 +46,7 @@ class Computation : public StartedTest {
     });
     Main().CalculateButton().Action = nullptr;
   }
-  // A finger on the middle of a widget.
+  // Taps the middle of a widget with a finger.
   static void Tap(QWidget& widget) {
     static QPointingDevice* const screen = QTest::createTouchDevice();
     const QPoint middle = widget.mapTo(widget.window(), widget.rect().center());
@@ -63,7 +63,7 @@ using Gate = Computation;
 using HeldInput = Computation;
 using Wheel = Computation;
 
-TEST_F(Gate, AnExceptionEndsInOneAlertAndTheProgramRunsOn) {
+TEST_F(Gate, ReportsAnExceptionOnceAndGoesOn) {
   Main().CalculateButton().SetCaption("Start");
   const std::pair<std::function<void()>, const char*> cases[] = {
       {[] { throw NilObjectException("It has gone."); }, "It has gone."},
@@ -81,7 +81,7 @@ TEST_F(Gate, AnExceptionEndsInOneAlertAndTheProgramRunsOn) {
   }
 }
 
-TEST_F(Gate, AFaultInAPasteRefusesIt) {
+TEST_F(Gate, RefusesAPasteWhoseHandlerThrows) {
   Main().StartYearField().Pasting = [](const std::string&,
                                        std::size_t) -> std::optional<std::string> {
     throw RuntimeException("No paste.");
@@ -93,7 +93,7 @@ TEST_F(Gate, AFaultInAPasteRefusesIt) {
   EXPECT_NE(Text("StartYearField"), "7");
 }
 
-TEST_F(Gate, ActivationComesAfterTheHandlerThatOpenedTheDialog) {
+TEST_F(Gate, DefersActivationUntilTheHandlerReturns) {
   Main().StartYearField().GotFocus = [this](TextField&) { log_.push_back("activate"); };
   ExpectDialog(ByButton());
   Do([this] {
@@ -106,13 +106,13 @@ TEST_F(Gate, ActivationComesAfterTheHandlerThatOpenedTheDialog) {
   EXPECT_EQ(log_, (Log{"end", "activate"}));
 }
 
-TEST_F(Gate, AWindowClosedDuringAComputationClosesAfterIt) {
+TEST_F(Gate, ClosesAWindowAfterTheComputation) {
   EXPECT_EQ(RunWith([this] { Compute([this] { Native()->close(); }); }), 0);
   EXPECT_EQ(log_, (Log{"begin", "end"}));
   EXPECT_FALSE(Main().IsOpen());
 }
 
-TEST_F(Gate, AKeyHeldDownActsOnce) {
+TEST_F(Gate, RunsACommandOnceForAKeyHeldDown) {
   Main().CalculateButton().Action = [this](PushButton&) { log_.push_back("go"); };
   for (const bool repeated : {false, true}) {
     QTest::simulateEvent(Native(), true, Qt::Key_Return, {}, "\r", repeated, -1);
@@ -122,7 +122,7 @@ TEST_F(Gate, AKeyHeldDownActsOnce) {
   EXPECT_EQ(log_, (Log{"go", "shortcut"}));
 }
 
-TEST_F(HeldInput, ComesAfterTheComputationInItsOrderAndNeverInsideIt) {
+TEST_F(HeldInput, IsDeliveredInOrderAfterTheComputation) {
   user::Replace("");
   Compute([this] {
     QTest::keyClick(Native(), 'a');
@@ -143,7 +143,7 @@ TEST_F(HeldInput, ComesAfterTheComputationInItsOrderAndNeverInsideIt) {
   EXPECT_EQ(log_, (Log{"begin", "end", "begin", "end", "shortcut", "other", "other"}));
 }
 
-TEST_F(HeldInput, ATouchOfTheHelpTextActsAfterTheComputation) {
+TEST_F(HeldInput, IncludesATouchOfTheHelpText) {
   user::Key(Qt::Key_F1);
   user::Key(Qt::Key_Tab);
   user::Activate(Main());
@@ -158,7 +158,7 @@ TEST_F(HeldInput, ATouchOfTheHelpTextActsAfterTheComputation) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return log_.back() == "touched"; }));
 }
 
-TEST_F(HeldInput, OnlyTheCancellingKeysCancelAndOnlyTheComputationThatRuns) {
+TEST_F(HeldInput, LetsTheCancelKeysAloneActAtOnce) {
   const std::tuple<Qt::Key, Qt::KeyboardModifiers, bool> cases[] = {
       {Qt::Key_Escape, Qt::NoModifier, true},
       {Qt::Key_Period, Qt::ControlModifier, true},
@@ -191,7 +191,7 @@ TEST_F(Wheel, TurnsWhileAComputationYields) {
   EXPECT_TRUE(turned);
 }
 
-TEST_F(Wheel, IsPaintedAwayBeforeAnythingElseHappens) {
+TEST_F(Wheel, DisappearsAtOnce) {
   Main().Windmill().SetVisible(true);
   user::Settle();
   const Paints paints(Main().Native().Content());

@@ -13,7 +13,7 @@
 namespace fundlet {
 namespace {
 
-class Hand : public StartedTest {
+class FieldInput : public StartedTest {
  protected:
   static void Drop(QWidget& widget, const QString& text) {
     QMimeData data;
@@ -27,19 +27,18 @@ class Hand : public StartedTest {
     QGuiApplication::clipboard()->setText(text);
     user::Shortcut(Qt::Key_V);
   }
-  // A repetition. Where it is not told as one, Qt takes its halves for a release and a
-  // press of their own.
-  static void Repeat(QWidget& window, Qt::Key key, bool told, Qt::KeyboardModifiers modifiers = {},
-                     const QString& text = "") {
+  // Sends a repeat of a held key, marked as such or as a release and a press at the same time.
+  static void Repeat(QWidget& window, Qt::Key key, bool marked,
+                     Qt::KeyboardModifiers modifiers = {}, const QString& text = "") {
     for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-      QKeyEvent event(type, key, modifiers, told ? 0 : 36, 0, 0, text, told);
+      QKeyEvent event(type, key, modifiers, marked ? 0 : 36, 0, 0, text, marked);
       event.setTimestamp(5);
       QCoreApplication::sendEvent(window.windowHandle(), &event);
     }
   }
 };
 
-// What an input method composes in a field, over the whole text that the field has.
+// Lets an input method compose the text over the whole text of the field.
 void Compose(const QString& field, const QString& text) {
   user::Shortcut(Qt::Key_A);
   QInputMethodEvent composing(text, {});
@@ -47,8 +46,9 @@ void Compose(const QString& field, const QString& text) {
 }
 
 using Fields = StartedTest;
+using HeldKey = FieldInput;
 
-TEST_F(Fields, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
+TEST_F(Fields, SelectTheForcedValueAfterARefusal) {
   Fill("StartAgeField", "60");
   user::Shortcut(Qt::Key_P);
   const std::tuple<const char*, const char*, const char*, Answer> refusals[] = {
@@ -71,7 +71,7 @@ TEST_F(Fields, ARefusalEndsOnTheFieldWithThePassingValueSelected) {
   }
 }
 
-TEST_F(Fields, AMenuOrAToolTipIsNoLossOfFocus) {
+TEST_F(Fields, KeepTheFocusWhileAMenuOrAToolTipIsOpen) {
   Fill("StartFundletField", "1234.5");
   const std::function<void()> openings[] = {
       [] { user::OpenMenu("File"); },
@@ -99,7 +99,7 @@ TEST_F(Fields, AMenuOrAToolTipIsNoLossOfFocus) {
   QApplication::activePopupWidget()->close();
 }
 
-TEST_F(Fields, EachOpensTheHelpAndShowsWhatWasReadWhenItIsLeft) {
+TEST_F(Fields, OpenTheHelpAndShowTheirValueOnceLeft) {
   for (const main_layout::FieldRow& row : main_layout::Fields()) {
     const QString field = QString::fromUtf8(row.field.data());
     Fill(field, "7.555");
@@ -111,7 +111,7 @@ TEST_F(Fields, EachOpensTheHelpAndShowsWhatWasReadWhenItIsLeft) {
   }
 }
 
-TEST_F(Fields, ActivationsLeadBackToTheRefusedFieldUntilTheNextPress) {
+TEST_F(Fields, RegainTheFocusAtActivationsUntilTheNextCalculation) {
   CalculateRefused();
   const std::function<void()> departures[] = {
       [] {
@@ -156,7 +156,7 @@ TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
   check(GlobalModule::HelpWindow->TextField());
 }
 
-TEST_F(Hand, AClickSelectsTheWholeTextTheNextOnePlacesTheCaretAndADoubleClickSelectsAll) {
+TEST_F(FieldInput, SelectsAllAtTheFirstClickAndAtADoubleClick) {
   QWidget& field = Found("EndFundletField");
   const QPoint middle = field.mapTo(field.window(), field.rect().center());
   const auto double_click = [&] {
@@ -175,7 +175,7 @@ TEST_F(Hand, AClickSelectsTheWholeTextTheNextOnePlacesTheCaretAndADoubleClickSel
   EXPECT_EQ(Selected("EndFundletField"), "9100,000");
 }
 
-TEST_F(Hand, APasteGoesInWholeOrNotAtAllByEveryRoad) {
+TEST_F(FieldInput, TakesAPasteWholeOrNotAtAll) {
   const std::function<void()> roads[] = {
       [] { user::Shortcut(Qt::Key_V); },
       [] { user::Key(Qt::Key_Insert, Qt::ShiftModifier); },
@@ -206,7 +206,7 @@ TEST_F(Hand, APasteGoesInWholeOrNotAtAllByEveryRoad) {
   EXPECT_EQ(Text("StartFundletField"), "250");
 }
 
-TEST_F(Hand, ADropReplacesTheTextAndIsKeptByTheNextActivation) {
+TEST_F(FieldInput, ReplacesTheTextByADropAndReadsIt) {
   QWidget& field = Found("FundletAPRField");
   Fill("FundletAPRField", "5.0");
   Drop(field, "3.46");
@@ -222,7 +222,7 @@ TEST_F(Hand, ADropReplacesTheTextAndIsKeptByTheNextActivation) {
   EXPECT_EQ(ThePlan().FundletAPR, 0.045);
 }
 
-TEST_F(Hand, TheLimitHoldsForWhatIsEnteredOverALongerTextAndUndoSurvives) {
+TEST_F(FieldInput, KeepsWithinTheLimitAndCanBeUndone) {
   user::Replace("123456");
   EXPECT_EQ(Text("StartYearField"), "1234");
   Fill("COLAField", "1.25");
@@ -256,7 +256,7 @@ TEST_F(Hand, TheLimitHoldsForWhatIsEnteredOverALongerTextAndUndoSurvives) {
   EXPECT_EQ(Text("StartYearField"), "😀😀😀1");
 }
 
-TEST_F(Hand, EntersTheDecimalPointByTheKeypadAndNothingWithAltOrTheWindowsKey) {
+TEST_F(FieldInput, EntersThePointOfTheKeypadAndNothingWithAltOrMeta) {
   Fill("COLAField", "");
   user::Type("1");
   for (const Qt::KeyboardModifier modifier : {Qt::AltModifier, Qt::MetaModifier}) {
@@ -270,7 +270,7 @@ TEST_F(Hand, EntersTheDecimalPointByTheKeypadAndNothingWithAltOrTheWindowsKey) {
   EXPECT_EQ(Text("COLAField"), "1.5,");
 }
 
-TEST_F(Hand, ACompositionIsPartOfTheTextForEveryCommand) {
+TEST_F(FieldInput, IncludesACompositionForEveryCommand) {
   const std::function<void()> commands[] = {
       [] { user::Shortcut(Qt::Key_P); },        [] { user::Choose("File", "Remember Parameters"); },
       [] { user::Click(Found("SaveButton")); }, [] { user::Key(Qt::Key_F1); },
@@ -295,7 +295,7 @@ TEST_F(Hand, ACompositionIsPartOfTheTextForEveryCommand) {
   EXPECT_EQ(Selected("COLAField"), "3.25");
 }
 
-TEST_F(Hand, ATextWithoutTheFocusIsSeenFromItsHead) {
+TEST_F(FieldInput, ShowsTheHeadOfTheTextOnceLeft) {
   auto& field = Found<QLineEdit>("StartYearField");
   Fill("StartYearField", "1e99");
   user::Key(Qt::Key_Tab);
@@ -308,10 +308,10 @@ TEST_F(Hand, ATextWithoutTheFocusIsSeenFromItsHead) {
   EXPECT_LT(money.fontMetrics().horizontalAdvance(money.text()), money.width() - 4);
 }
 
-TEST_F(Hand, ThatHoldsAKeyAnswersNoDialogButStillTypesAName) {
+TEST_F(HeldKey, AnswersNoDialogButTypesAName) {
   const Answer only_by_a_fresh_key = [](QWidget& dialog) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_O, Qt::Key_Space}) {
-      for (const bool told : {true, false}) Repeat(dialog, key, told);
+      for (const bool marked : {true, false}) Repeat(dialog, key, marked);
       EXPECT_TRUE(dialog.isVisible()) << key;
     }
     ByKey(Qt::Key_Escape)(dialog);
@@ -334,7 +334,7 @@ TEST_F(Hand, ThatHoldsAKeyAnswersNoDialogButStillTypesAName) {
   user::Shortcut(Qt::Key_S);
 }
 
-TEST_F(Hand, AMenuOpenedOverAMessageLeavesTheForcedValue) {
+TEST_F(FieldInput, KeepsTheForcedValueWhenAMenuOpensOverTheMessage) {
   CalculateRefused([](QWidget& dialog) {
     Main().Native().findChild<QMenu*>("EditMenu")->aboutToShow();
     ByKey(Qt::Key_Return)(dialog);

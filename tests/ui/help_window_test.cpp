@@ -16,7 +16,7 @@ class Help : public StartedTest {
   static int Showing() { return VisibleWindows("Fundlet Help"); }
 };
 
-using ASmallScreen = FundletTest;
+using SmallScreen = FundletTest;
 
 TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
   const std::function<void()> routes[] = {
@@ -48,7 +48,7 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
   }
 }
 
-TEST_F(Help, StandsAsMadeUntilItIsResizedAndThenFollowsItsSize) {
+TEST_F(Help, FollowsTheSizeOfItsWindowOnceResized) {
   user::Key(Qt::Key_F1);
   EXPECT_EQ(Window().Native().Content().size(), QSize(498, 430));
   EXPECT_EQ(Found("TextField").geometry(), QRect(20, 20, 452, 356));
@@ -61,7 +61,7 @@ TEST_F(Help, StandsAsMadeUntilItIsResizedAndThenFollowsItsSize) {
   EXPECT_EQ(Window().Native().maximumWidth(), 32000);
 }
 
-TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
+TEST_F(Help, ShowsThePageAndTakesNoTyping) {
   const std::string page = HelpText();
   user::Key(Qt::Key_F1);
   user::Type("x");
@@ -69,7 +69,7 @@ TEST_F(Help, ShowsTheWholePageWithReturnsBetweenItsLinesAndTakesNoTyping) {
   EXPECT_EQ(Window().TextField().Text(), page);
 }
 
-TEST_F(Help, LeavesAMessageOfTheMainWindowOpenWhenItCloses) {
+TEST_F(Help, LeavesAMessageOpenWhenItCloses) {
   user::Key(Qt::Key_F1);
   user::Activate(Main());
   CalculateRefused([](QWidget& dialog) {
@@ -114,7 +114,7 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
       << "a desktop may let a menu be chosen from before its window has become the active one";
 }
 
-TEST_F(Help, IsFoundAsItWasLeftAndAPressPlacesTheCaretWhereItIs) {
+TEST_F(Help, KeepsItsPlaceAndPutsTheCaretWhereItIsPressed) {
   user::Key(Qt::Key_F1);
   auto& page = Found<QPlainTextEdit>("TextField");
   user::Key(Qt::Key_Down, Qt::KeypadModifier);
@@ -137,7 +137,7 @@ TEST_F(Help, IsFoundAsItWasLeftAndAPressPlacesTheCaretWhereItIs) {
   EXPECT_TRUE(page.viewport()->rect().intersects(page.cursorRect()));
 }
 
-TEST_F(ASmallScreen, ShowsTheTitleBarOfTheHelpAndItsButton) {
+TEST_F(SmallScreen, ShowsTheTitleBarAndTheButtonOfTheHelp) {
   UseScreen(683, 384);
   Start();
   user::Key(Qt::Key_F1);

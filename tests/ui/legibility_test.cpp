@@ -33,7 +33,7 @@ QImage Picture(QWidget& window, double scale) {
   return image;
 }
 
-// The contrast of the lightest colour in a part of a picture to the darkest.
+// The contrast between the lightest and the darkest colour within `part` of a picture.
 double ContrastIn(const QImage& picture, const QRect& part) {
   const double scale = picture.devicePixelRatio();
   const QImage seen = picture.copy(QRect(part.topLeft() * scale, part.size() * scale));
@@ -46,7 +46,7 @@ double ContrastIn(const QImage& picture, const QRect& part) {
   return Contrast(*dark, *light);
 }
 
-// The width and height in pixels of the text of a widget, seen with more room than it needs.
+// The size in pixels of the text of a widget that is made larger for the picture.
 QSize TextSize(QWidget& widget, int frame, double scale) {
   const QSize before = widget.size();
   widget.setFixedSize(before + QSize(80, 20));
@@ -65,7 +65,7 @@ QSize TextSize(QWidget& widget, int frame, double scale) {
 
 class Legibility : public FundletTest {
  protected:
-  // What is inside a control's frame.
+  // The area within a control's frame, in pixels of the window.
   static QRect Inside(const QWidget& widget) {
     const QPoint corner = widget.mapTo(widget.window(), QPoint(0, 0));
     return QRect(corner, widget.size()).adjusted(4, 3, -4, -3);
@@ -78,7 +78,9 @@ class Legibility : public FundletTest {
   }
 };
 
-TEST_F(Legibility, HasRoomForEveryTextInAnySystemFontAndScale) {
+using FocusRing = Legibility;
+
+TEST_F(Legibility, FitsEveryTextInAnySystemFontAndScale) {
   for (const char* family : {"DejaVu Sans", "Liberation Sans", "Noto Sans"}) {
     Start(family);
     Main().ClearFocus();
@@ -153,7 +155,7 @@ TEST_F(Legibility, HoldsInTheMenusTheHelpAndTheMessages) {
   });
 }
 
-TEST_F(Legibility, OfTheFocusIsARingThatStandsOutAroundOneControl) {
+TEST_F(FocusRing, StandsOutAroundOneControl) {
   Start();
   for (const char* name : {"StartAgeField", "YearsLeftField", "EndFundletField", "SaveButton"}) {
     while (FocusName() != name) user::Key(Qt::Key_Tab);

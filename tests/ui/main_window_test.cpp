@@ -9,9 +9,9 @@ namespace fundlet {
 namespace {
 
 using MainWindow = StartedTest;
-using AStart = FundletTest;
+using Startup = FundletTest;
 
-TEST_F(MainWindow, HasEveryControlInItsPlaceAndNoneOnAnother) {
+TEST_F(MainWindow, PlacesEachControlWithoutOverlap) {
   QWidget& content = Main().Native().Content();
   EXPECT_EQ(content.size(), QSize(740, 220));
   EXPECT_EQ(content.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).size(), 28);
@@ -35,7 +35,7 @@ TEST_F(MainWindow, HasEveryControlInItsPlaceAndNoneOnAnother) {
   EXPECT_EQ(Selected("StartYearField"), Text("StartYearField"));
 }
 
-TEST_F(MainWindow, TabGoesByTheTabIndexAndLeavesTheDimmedButtonOut) {
+TEST_F(MainWindow, MovesTheFocusByTabIndexPastADimmedButton) {
   std::vector<std::string> order = {"StartYearField",      "StartAgeField",     "YearsLeftField",
                                     "COLAField",           "StartFundletField", "FundletAPRField",
                                     "SocialSecurityField", "EndFundletField",   "CalculateButton",
@@ -71,7 +71,7 @@ TEST_F(MainWindow, ShiftsItsContentToTheFocusInATileThatIsTooSmall) {
   EXPECT_EQ(window.Content().pos(), QPoint(0, 0));
 }
 
-TEST_F(MainWindow, ReturnSolvesTheDefaultPlanAndGoesBackToTheField) {
+TEST_F(MainWindow, SolvesTheDefaultPlanByReturnAndRefocuses) {
   Paints wheel(Found("Windmill"));
   Fill("StartFundletField", "1000000");
   Calculate();
@@ -92,7 +92,7 @@ TEST_F(MainWindow, ReturnSolvesTheDefaultPlanAndGoesBackToTheField) {
   EXPECT_TRUE(Found("PrintButton").isEnabled());
 }
 
-TEST_F(MainWindow, APlanThatCannotBeSolvedIsTold) {
+TEST_F(MainWindow, ReportsAPlanThatCannotBeSolved) {
   Calculate();
   Fill("YearsLeftField", "34");
   Fill("FundletAPRField", "90");
@@ -105,7 +105,7 @@ TEST_F(MainWindow, APlanThatCannotBeSolvedIsTold) {
   EXPECT_EQ(FocusName(), "FundletAPRField");
 }
 
-TEST_F(MainWindow, ShowsAToolTipOnItsLinesAndOnADimmedButtonToo) {
+TEST_F(MainWindow, WrapsToolTipsAndShowsThemForADimmedButton) {
   const std::tuple<const char*, const char*, int> cases[] = {
       {"PrintButton", "save a schedule of draws", 2},
       {"YearsLeftField", "after the first year.\n\nUse the Edit", 3}};
@@ -124,7 +124,7 @@ TEST_F(MainWindow, ShowsAToolTipOnItsLinesAndOnADimmedButtonToo) {
 
 constexpr const char* kFile = "Fundlet.Preferences";
 
-TEST_F(AStart, GoesOnAfterAFileThatCannotBeReadAndLeavesItAlone) {
+TEST_F(Startup, ReportsAFileThatCannotBeReadAndKeepsIt) {
   for (const std::string& bytes : {std::string(), std::string(3, 'x'), std::string(43, '\7')}) {
     folder_.Write(kFile, bytes);
     ExpectDialog(ByKey(Qt::Key_Return));
@@ -138,7 +138,7 @@ TEST_F(AStart, GoesOnAfterAFileThatCannotBeReadAndLeavesItAlone) {
   }
 }
 
-TEST_F(AStart, PlacesTheWindowOnAnyScreenByWholeNumbers) {
+TEST_F(Startup, PlacesTheWindowOnScreensOfAnySize) {
   const std::tuple<int, int, int, int> cases[] = {
       {1440, 877, 350, 316}, {701, 220, -19, 24}, {743, 219, 1, 24}, {740, 221, 0, -11}};
   // The offscreen platform adds its margin to a position that lies before it.
@@ -152,7 +152,7 @@ TEST_F(AStart, PlacesTheWindowOnAnyScreenByWholeNumbers) {
   }
 }
 
-TEST_F(AStart, ReadsNotANumberAsZeroAndRefusesAHugeNumberOnlyWhenItCalculates) {
+TEST_F(Startup, ReadsNotANumberAsZeroAndLetsTheCalculationRefuseAHugeNumber) {
   const std::pair<const char*, std::vector<std::string>> cases[] = {
       {"\x7F\xF8\1\1\1\1\1\1", {}},
       {"\x7F\xEF\1\1\1\1\1\1", {"COLA (Annual Cost of Living Adjustment) must be less than 100%."}},
@@ -172,7 +172,7 @@ TEST_F(AStart, ReadsNotANumberAsZeroAndRefusesAHugeNumberOnlyWhenItCalculates) {
   }
 }
 
-TEST_F(AStart, IsEndedWhereTheDesktopAsksForTheEnd) {
+TEST_F(Startup, EndsIfTheDesktopAsksForIt) {
   folder_.Write(kFile, "x");
   ExpectDialog([](QWidget&) {
     QEvent quit(QEvent::Quit);

@@ -88,7 +88,7 @@ class RandomWalk : public StartedTest {
   int saved_ = 0;
 };
 
-TEST_F(RandomWalk, LeavesTheProgramWholeAfterEveryStep) {
+TEST_F(RandomWalk, KeepsTheInvariantsAtEveryStep) {
   constexpr int kSteps = 3000;
   int solved = 0;
   AnswerAnyDialog();

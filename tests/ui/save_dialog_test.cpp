@@ -97,7 +97,7 @@ class SaveDialog : public FundletTest {
   }
 };
 
-TEST_F(SaveDialog, WritesTheFileThatIsTypedAtTheFirstSaveOfARunAndLater) {
+TEST_F(SaveDialog, WritesExactlyTheFileThatIsTyped) {
   const struct {
     const char* typed;
     const char* written;
@@ -141,7 +141,7 @@ TEST_F(SaveDialog, WritesTheFileThatIsTypedAtTheFirstSaveOfARunAndLater) {
   }
 }
 
-TEST_F(SaveDialog, OpensAFolderThatIsTypedOrSelectedAndProposesTheNameThere) {
+TEST_F(SaveDialog, OpensATypedFolderAndProposesTheNameThere) {
   StartAmongFiles();
   ExpectDialog([this](QWidget& dialog) {
     const auto& files = static_cast<QFileDialog&>(dialog);
@@ -160,7 +160,7 @@ TEST_F(SaveDialog, OpensAFolderThatIsTypedOrSelectedAndProposesTheNameThere) {
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
-TEST_F(SaveDialog, RefusesWhatIsNoFileAndKeepsWhatWasTyped) {
+TEST_F(SaveDialog, RefusesATextThatNamesNoFileAndKeepsIt) {
   StartAmongFiles();
   const std::pair<std::string, std::string> rows[] = {
       {"", "Type a name for the file."},
@@ -195,7 +195,7 @@ TEST_F(SaveDialog, RefusesWhatIsNoFileAndKeepsWhatWasTyped) {
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
-TEST_F(SaveDialog, TakesTheFileOrFolderThatIsSelectedInTheList) {
+TEST_F(SaveDialog, TakesTheFileOrFolderSelectedInTheList) {
   StartAmongFiles();
   ExpectDialog([this](QWidget& dialog) {
     auto& list = *dialog.findChild<QTreeView*>("treeView");
@@ -233,7 +233,7 @@ TEST_F(SaveDialog, WritesNothingOnceItIsClosed) {
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
-TEST_F(SaveDialog, AMessageAboutALongPathFitsTheScreenAndKeepsItsReason) {
+TEST_F(SaveDialog, FitsAMessageAboutALongPathOnTheScreen) {
   StartAmongFiles();
   const QString path = QString("/x").repeated(2500);
   ExpectDialog([&](QWidget& dialog) {

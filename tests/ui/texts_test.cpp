@@ -20,7 +20,7 @@ std::string Digest(const std::string& bytes) {
 
 // Each digest was taken when every text and number in it had been compared, byte by byte, with the
 // texts and numbers that the program must have. A deliberate change needs a new digest.
-TEST_F(GivenData, OfWindowsControlsAndMenusIsUnchanged) {
+TEST_F(GivenData, IsUnchangedInWindowsControlsAndMenus) {
   const auto set = [](const PropertyTarget& target, std::span<const Property> own) {
     return EncodePropertySet(target.Properties(), own);
   };
