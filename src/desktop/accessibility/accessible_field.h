@@ -6,8 +6,8 @@ class QLineEdit;
 
 namespace fundlet {
 
-// A one-line text as screen readers see it. Qt's own says of each character that a run of
-// like characters ends before it, and readers then leave the last one out.
+// A QLineEdit for screen readers. Qt's own interface says of each character that its run of equal
+// attributes ends before it, so that screen readers leave the last character out.
 class AccessibleField : public QAccessibleWidget,
                         public QAccessibleTextInterface,
                         public QAccessibleEditableTextInterface {

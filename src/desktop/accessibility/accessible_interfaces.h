@@ -6,10 +6,10 @@ class QWidget;
 
 namespace fundlet {
 
-// From here on Qt asks the program what screen readers see of a widget.
+// Makes Qt use AccessibleField, AccessibleMenu and the roles set below. To be called once a run.
 void InstallAccessibleInterfaces();
 
-// Tells screen readers what a widget that Qt does not know is for.
+// Sets the role in which screen readers present a widget that has none in Qt.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 }  // namespace fundlet

@@ -70,7 +70,8 @@ class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInte
   }
 
  private:
-  // A menu opens at its first item, and readers pass over what has had the focus on the way there.
+  // A menu opens with its first item selected, and screen readers do not speak the menu's own name
+  // then, so the first item has it as its description.
   QString MenuName() const {
     if (menu_->actions().constFirst() != action_) return {};
     return menu_->title().remove('&') + " menu";

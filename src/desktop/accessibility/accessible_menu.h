@@ -10,8 +10,8 @@ class QMenu;
 
 namespace fundlet {
 
-// An open menu as screen readers see it. Qt's own has no name, and gives the shortcut of
-// an item in a form that some readers take for the way of keys to it, and do not speak.
+// A QMenu for screen readers. Qt's own interface has no name, and gives an item's shortcut in a
+// form that some screen readers take for its access keys and do not speak.
 class AccessibleMenu : public QAccessibleWidget {
  public:
   explicit AccessibleMenu(QMenu& menu);

@@ -4,7 +4,7 @@
 
 #include <QLabel>
 
-#include "desktop/accessibility/screen_reader.h"
+#include "desktop/accessibility/screen_reader_notifier.h"
 #include "desktop/base/qt_text.h"
 #include "desktop/controls/qt_properties.h"
 
@@ -26,7 +26,7 @@ std::string Label::Text() const { return FromQt(LabelOf(*this).text()); }
 void Label::SetText(std::string_view text) {
   LabelOf(*this).setText(ToQt(text));
   FitText();
-  if (announced_) ScreenReader::Announce(LabelOf(*this), ToQt(text));
+  if (announced_) ScreenReaderNotifier::Announce(LabelOf(*this), ToQt(text));
 }
 
 void Label::SetTextAlign(std::int64_t align) {

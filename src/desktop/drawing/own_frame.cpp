@@ -19,7 +19,7 @@ constexpr int kBorder = 1;
 constexpr int kGrip = 5;  // the border of a window that can be resized by it
 constexpr int kTitleHeight = 32;
 
-QPen InkOf(const QWidget& widget) {
+QPen TitlePen(const QWidget& widget) {
   const auto group = widget.isActiveWindow() ? QPalette::Active : QPalette::Disabled;
   return {widget.palette().color(group, QPalette::WindowText), 1.5};
 }
@@ -40,7 +40,7 @@ class FrameButton : public QAbstractButton {
     painter.setRenderHint(QPainter::Antialiasing);
     if (underMouse()) painter.fillRect(rect(), palette().color(QPalette::Midlight));
     if (isDown()) painter.fillRect(rect(), palette().color(QPalette::Mid));
-    painter.setPen(InkOf(*this));
+    painter.setPen(TitlePen(*this));
     painter.translate(QRectF(rect()).center());
     for (const QLineF& stroke : strokes_) painter.drawLine(stroke);
   }
@@ -49,7 +49,7 @@ class FrameButton : public QAbstractButton {
   std::vector<QLineF> strokes_;
 };
 
-// Lies beneath all that the window holds; the window's margins leave the frame's strips free.
+// Lies beneath the other widgets of the window, whose margins leave the frame's strips free.
 class FrameWidget : public QWidget {
  public:
   explicit FrameWidget(QWidget& window)
@@ -82,10 +82,10 @@ class FrameWidget : public QWidget {
       if (dragged_) window_.resize(window_.size().expandedTo(window_.minimumSize()));
       Fit();
     }
-    const bool shows = event->type() == QEvent::WindowActivate ||
-                       event->type() == QEvent::WindowDeactivate ||
-                       event->type() == QEvent::WindowTitleChange;
-    if (shows) update();
+    const bool repaints = event->type() == QEvent::WindowActivate ||
+                          event->type() == QEvent::WindowDeactivate ||
+                          event->type() == QEvent::WindowTitleChange;
+    if (repaints) update();
     return false;
   }
 
@@ -97,9 +97,9 @@ class FrameWidget : public QWidget {
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
-    painter.setPen(InkOf(*this));
-    const int room = static_cast<int>(buttons_.size()) * kTitleHeight;
-    const QRect title(room, border_, width() - 2 * room, kTitleHeight);
+    painter.setPen(TitlePen(*this));
+    const int side = static_cast<int>(buttons_.size()) * kTitleHeight;
+    const QRect title(side, border_, width() - 2 * side, kTitleHeight);
     painter.drawText(
         title, Qt::AlignCenter,
         painter.fontMetrics().elidedText(window_.windowTitle(), Qt::ElideRight, title.width()));
@@ -171,7 +171,7 @@ FrameWidget* FrameOf(const QWidget& window) {
 
 }  // namespace
 
-bool OwnFrame::PutRound(QWidget& window) {
+bool OwnFrame::AddTo(QWidget& window) {
   QWindow* native = window.windowHandle();
   const bool qt_draws = QGuiApplication::platformName().startsWith("wayland") &&
                         native != nullptr && native->frameMargins().top() > 0;
@@ -180,13 +180,13 @@ bool OwnFrame::PutRound(QWidget& window) {
   // A size grip within the window would resize it without the frame's knowing.
   if (auto* dialog = qobject_cast<QDialog*>(&window)) dialog->setSizeGripEnabled(false);
   new FrameWidget(window);
-  // A dialog settles its size anew for the frame.
+  // The layout of a dialog adds the margins to its size.
   QCoreApplication::sendPostedEvents(&window, QEvent::LayoutRequest);
   window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   return true;
 }
 
-bool OwnFrame::Takes(const QObject* object, const QEvent& event) {
+bool OwnFrame::IsOnTitle(const QObject* object, const QEvent& event) {
   const bool mouse =
       event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonRelease ||
       event.type() == QEvent::MouseButtonDblClick || event.type() == QEvent::MouseMove;

@@ -6,17 +6,17 @@ class QWidget;
 
 namespace fundlet {
 
-// A frame of the program's own: a title to move the window by, a close box, and a minimise box
-// where the window has one. It stands where Qt would draw the frame, which then has a zoom
-// box whatever the window asks for.
+// The program's own frame: a title to move the window by, a close box, and a minimise box if the
+// window has Qt::WindowMinimizeButtonHint. It replaces the frame that Qt draws on Wayland, which
+// has a zoom box whatever the window flags say.
 class OwnFrame {
  public:
-  // Puts the frame round a window that has just been shown, unless the desktop draws one. The
-  // window then takes any size that the desktop gives it. True where the frame was put.
-  static bool PutRound(QWidget& window);
+  // Adds the frame to a window that has just been shown, unless the compositor draws one. The
+  // window then accepts any size that the compositor sets. True if the window has this frame.
+  static bool AddTo(QWidget& window);
 
-  // Whether the mouse event goes to such a frame, and so not to what the window holds.
-  static bool Takes(const QObject* object, const QEvent& event);
+  // Whether the mouse event is on the title of such a frame.
+  static bool IsOnTitle(const QObject* object, const QEvent& event);
 };
 
 }  // namespace fundlet

@@ -12,21 +12,21 @@ namespace fundlet {
 
 namespace {
 
-// The first palette drawn with that equals the given one.
-const QPalette& OneOf(const QPalette& palette) {
+// The one copy of all palettes that equal the given one.
+const QPalette& SharedPalette(const QPalette& palette) {
   static std::vector<QPalette> different;
   const auto found = std::find(different.begin(), different.end(), palette);
   return found != different.end() ? *found : different.emplace_back(palette);
 }
 
 template <typename Option>
-Option WithOnePalette(const Option& option) {
+Option WithSharedPalette(const Option& option) {
   Option changed(option);
-  changed.palette = OneOf(option.palette);
+  changed.palette = SharedPalette(option.palette);
   return changed;
 }
 
-// An arrow that points to what there was no room for.
+// An arrow to the menus that do not fit into the bar.
 class ArrowIcon : public QIconEngine {
  public:
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -76,7 +76,7 @@ void ProgramStyle::polish(QPalette& palette) { palette = PaletteFor(QColor(0xEF,
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
   if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
-    const QStyleOptionButton changed = WithOnePalette(*button);
+    const QStyleOptionButton changed = WithSharedPalette(*button);
     QProxyStyle::drawPrimitive(element, &changed, painter, widget);
     return;
   }
@@ -86,7 +86,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
   if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
-    const QStyleOptionSlider changed = WithOnePalette(*bar);
+    const QStyleOptionSlider changed = WithSharedPalette(*bar);
     QProxyStyle::drawComplexControl(control, &changed, painter, widget);
     return;
   }
@@ -96,8 +96,8 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* data) const {
   if (hint == SH_Menu_AllowActiveAndDisabled) return 1;
-  // Else the Alt key alone, and Escape in a menu, give the menu bar the keys, and what is typed
-  // next is lost.
+  // Else Alt alone, and Escape in a menu, move the focus to the menu bar, and the text that is
+  // typed next is lost.
   if (hint == SH_MenuBar_AltKeyNavigation) return 0;
   return QProxyStyle::styleHint(hint, option, widget, data);
 }

@@ -5,36 +5,36 @@
 
 namespace fundlet {
 
-// The colours on a background of the program's own. They go with that background and not with the
-// theme of the desktop, so that every text can be read under any theme.
+// The colours for controls on the background. They are chosen for it and not taken from the desktop
+// environment's theme, so that every text can be read under any theme.
 QPalette PaletteFor(const QColor& background);
 
-// The style of the program on Linux, in place of the desktop environment's.
+// The style of the program on every system but the Mac, whatever the desktop environment's is.
 class ProgramStyle : public QProxyStyle {
  public:
   ProgramStyle();
 
-  // Menus and dialogs have the program's colours too: not every theme's can be read well.
+  // Gives menus and dialogs the program's colours too, because some themes are hard to read.
   void polish(QPalette& palette) override;
   using QProxyStyle::polish;
 
-  // QPixmapCache keeps what was drawn under names in which QPalette::cacheKey() has a
-  // part, every window has a palette of another identity, and the names are kept for ever. Here
-  // equal palettes are one, so that a window opened again and again takes no more memory.
+  // QPixmapCache keys contain QPalette::cacheKey(), which differs for each window even if the
+  // palettes are equal, and entries stay. Drawing with one shared copy of equal palettes keeps the
+  // memory constant however often a window is opened.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
 
-  // The keys reach dimmed items of a menu too, so that a screen reader tells of them. A frame shows
-  // where they are.
+  // Lets the arrow keys select disabled menu items too, so that a screen reader can name them, and
+  // draws a frame around a selected one.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
 
-  // Qt's picture for a menu bar without room is a file, and reading any such file loads
-  // its plug-ins for pictures, which the opening would wait for.
+  // Draws the arrow of a menu bar that is too narrow. Qt's own is an image file, and reading one
+  // would load the image plug-ins and delay the start.
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                      const QWidget* widget) const override;
 };

@@ -8,21 +8,21 @@ namespace fundlet {
 
 namespace {
 
-constexpr int kLeastStretch = 50;  // percent; narrower than that nothing can be read
+constexpr int kLeastStretch = 50;  // percent; narrower text cannot be read
 
 }  // namespace
 
-QFont NarrowedToFit(const QFont& font, const QString& text, int room) {
-  const auto width = [&text](const QFont& tried) {
+QFont NarrowedToFit(const QFont& font, const QString& text, int width) {
+  const auto width_in = [&text](const QFont& tried) {
     return QFontMetricsF(tried).horizontalAdvance(text);
   };
-  const qreal plain_width = width(font);
-  if (plain_width <= room) return font;
+  const qreal plain_width = width_in(font);
+  if (plain_width <= width) return font;
   QFont narrowed = font;
-  int stretch = static_cast<int>(QFont::Unstretched * room / plain_width);
+  int stretch = static_cast<int>(QFont::Unstretched * width / plain_width);
   do {
     narrowed.setStretch(std::max(stretch, kLeastStretch));
-  } while (width(narrowed) > room && --stretch >= kLeastStretch);
+  } while (width_in(narrowed) > width && --stretch >= kLeastStretch);
   return narrowed;
 }
 

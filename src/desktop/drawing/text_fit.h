@@ -5,7 +5,8 @@
 
 namespace fundlet {
 
-// The font, made narrower by as little as it takes for the text to be no wider than `room` pixels.
-QFont NarrowedToFit(const QFont& font, const QString& text, int room);
+// The font, condensed just enough for the text to fit into `width` pixels, but to no less than half
+// its normal width; a still wider text overflows.
+QFont NarrowedToFit(const QFont& font, const QString& text, int width);
 
 }  // namespace fundlet

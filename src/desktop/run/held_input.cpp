@@ -96,7 +96,7 @@ bool HeldInput::ComesBeforeActivation(QObject* object, const QEvent& event) cons
          event.type() == QEvent::MouseButtonPress && object->isWindowType() &&
          object != QGuiApplication::focusWindow() && NativeWindow::Of(object) != nullptr &&
          !BlockingDialog::IsOpen() && QApplication::activePopupWidget() == nullptr &&
-         !OwnFrame::Takes(object, event);
+         !OwnFrame::IsOnTitle(object, event);
 }
 
 void HeldInput::StopAwaiting() {

@@ -9,7 +9,7 @@
 #include <QApplication>
 #include <QFontDatabase>
 
-#include "desktop/accessibility/screen_reader.h"
+#include "desktop/accessibility/screen_reader_notifier.h"
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
 #include "desktop/drawing/program_style.h"
@@ -84,12 +84,12 @@ Window& ImplicitInstance(const std::string& class_name,
 struct Runtime::Parts {
   explicit Parts(std::string name) : program(std::move(name)) {}
 
-  RunState state;  // goes last
+  RunState state;  // destroyed last
   std::string program;
   int argument_count = 1;
   char* arguments[2] = {program.data(), nullptr};
   std::unique_ptr<QApplication> application;
-  std::future<void> font_search;  // waits for its end when it goes
+  std::future<void> font_search;  // its destructor waits for the search
 };
 
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {}
@@ -102,7 +102,7 @@ Runtime::~Runtime() {
 void Runtime::Start(const std::function<void()>& early, const std::function<void()>& late) {
   early();
 #ifndef Q_OS_MACOS
-  // The style whose controls fit the heights of the layout.
+  // Its controls fit the heights in the layout.
   QApplication::setStyle(new ProgramStyle);
 #endif
   {
@@ -121,7 +121,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   RunState::Of<LostReleases>();
 #endif
   auto& held_input = RunState::Of<HeldInput>();
-  RunState::Of<ScreenReader>();
+  RunState::Of<ScreenReaderNotifier>();
   const auto commit_composition = [] {
     if (const Window* front = Window::Front(); front != nullptr) front->CommitComposition();
   };
@@ -134,7 +134,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
 }
 
 int Runtime::Run() {
-  // Qt forgets an end that was asked for before its loop runs.
+  // Qt ignores a quit requested before exec().
   if (const std::optional<int> status = parts_->state.end_status) return *status;
   if (Window::Front() == nullptr) return 1;
   return QApplication::exec();

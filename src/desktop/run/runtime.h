@@ -9,12 +9,12 @@
 
 namespace fundlet {
 
-// The one window of a class. If there is none yet, it is made by `make`, opened and shown, and kept
-// under the full name of its class until the run ends.
+// The one window of a class, by the full name of the class. At the first call `make` makes it; it
+// is opened, shown, and kept until the run ends.
 Window& ImplicitInstance(const std::string& class_name,
                          const std::function<std::unique_ptr<Window>()>& make);
 
-// The desktop from its start to its end; there is one at a time.
+// One run of the program in the desktop environment; there is one at a time.
 class Runtime {
  public:
   // `program` is the name of the executable file, as the process was started with it.
@@ -23,10 +23,10 @@ class Runtime {
   Runtime(const Runtime&) = delete;
   Runtime& operator=(const Runtime&) = delete;
 
-  // Brings the program up: `early` runs before QApplication is there and registers the
-  // application object, `late` when it is there, and opens the first window.
+  // Starts the program. `early` runs before the QApplication is made and registers the Application
+  // object; `late` runs after, and opens the first window.
   void Start(const std::function<void()>& early, const std::function<void()>& late);
-  // Delivers events until Quit, and gives the exit status; 1 where the start left no window.
+  // Delivers events until Quit, and returns the exit status; 1 if no window is open.
   int Run();
 
  private:

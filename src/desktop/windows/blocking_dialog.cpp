@@ -62,7 +62,7 @@ void BlockingDialog::Run(QDialog& dialog) {
   NativeWindow::ReadProgramIcon();
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
-  OwnFrame::PutRound(dialog);
+  OwnFrame::AddTo(dialog);
   dialog.raise();
   dialog.activateWindow();
   loop.exec();
@@ -106,7 +106,7 @@ bool IsHeldAnswer(QObject* object, const QEvent& event) {
 bool BlockingDialog::Blocks(QObject* object, const QEvent& event) {
   if (IsOpen() && IsHeldAnswer(object, event)) return true;
   if (!IsOpen() || event.type() == QEvent::Close || !IsBeneath(object)) return false;
-  if (OwnFrame::Takes(object, event)) return false;
+  if (OwnFrame::IsOnTitle(object, event)) return false;
   if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::KeyPress) {
     OpenDialogs().back()->raise();
     OpenDialogs().back()->activateWindow();

@@ -118,7 +118,7 @@ QSize NativeWindow::Outside() const {
 void NativeWindow::FitToContent() {
   outside_ = Outside();
   const QSize largest(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  if (takes_any_size_) {
+  if (accepts_any_size_) {
     setMinimumSize(resizeable_ ? smallest_ + outside_ : QSize(0, 0));
     setMaximumSize(largest);
   } else {
@@ -150,11 +150,11 @@ void NativeWindow::ShowMenus(const MenuItem& tree, MenuView::Callbacks callbacks
 
 void NativeWindow::ShowFirst() {
   show();
-  // The frame takes nothing from the content.
+  // Adding the frame resizes the window; the content keeps its size.
   const bool resizeable = std::exchange(resizeable_, false);
-  takes_any_size_ = OwnFrame::PutRound(*this);
+  accepts_any_size_ = OwnFrame::AddTo(*this);
   resizeable_ = resizeable;
-  if (takes_any_size_) FitToContent();
+  if (accepts_any_size_) FitToContent();
 }
 
 bool NativeWindow::event(QEvent* event) {
@@ -165,7 +165,7 @@ bool NativeWindow::event(QEvent* event) {
   return used;
 }
 
-// The icon is read when the first window has been painted: nobody is to wait for it.
+// The icon is read after the first window has been painted, so that it does not delay the start.
 void NativeWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
   if (QApplication::windowIcon().isNull()) {
@@ -184,7 +184,7 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
 
 bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
   const bool resized = object == centralWidget() && event->type() == QEvent::Resize && isVisible();
-  // The first show brings a resize to the size that the window was made with, which is none.
+  // The first show resizes the central widget from no size to the content's.
   if (resized && resizeable_ && centralWidget()->size() != content_size_) {
     content_size_ = centralWidget()->size();
     content_->resize(content_size_);

@@ -12,15 +12,16 @@ namespace fundlet {
 
 class WindowEvents;
 
-// Qt's side of a window: a main window whose central widget holds the content area. The
-// desktop may give the window another size than that of the content, which then stands at the top
-// left of a ground in its colour. In a smaller window it is shifted so that the focus can be seen.
+// The Qt window of a Window. Its central widget holds the content area. If the desktop environment
+// gives the window another size than that of its content, the content stands at the top left on a
+// ground of its colour; in a smaller window it is shifted so that the control with the focus is
+// seen.
 class NativeWindow : public QMainWindow {
  public:
   explicit NativeWindow(WindowEvents& window);
   ~NativeWindow() override;
 
-  // The window that a QWidget or QWindow belongs to; null for those of dialogs.
+  // The window that a QWidget or QWindow belongs to; null if that is a dialog.
   static NativeWindow* Of(QObject* object);
 
   // Gives all windows the program's icon, unless they have it.
@@ -30,6 +31,7 @@ class NativeWindow : public QMainWindow {
 
   void SetContentSize(int width, int height);
   QSize ContentSize() const;
+  // Limits of the content size, in pixels; they apply only while the window is resizable.
   void SetSmallest(int width, int height);
   QSize Smallest() const { return smallest_; }
   void SetLargest(int width, int height);
@@ -40,9 +42,9 @@ class NativeWindow : public QMainWindow {
   void SetHasBackColor(bool painted);
   void SetMenuBarVisible(bool visible) { menu_bar_visible_ = visible; }
 
-  // Makes the menus; to be called once the window's set of menus is settled.
+  // Makes the menus, unless the menu bar is hidden. To be called once.
   void ShowMenus(const MenuItem& tree, MenuView::Callbacks callbacks);
-  MenuView* Menus() const { return menus_.get(); }  // null where the window shows none
+  MenuView* Menus() const { return menus_.get(); }  // null if the window shows none
   // Shows the window for the first time.
   void ShowFirst();
 
@@ -55,7 +57,7 @@ class NativeWindow : public QMainWindow {
   QMenu* createPopupMenu() override { return nullptr; }
 
  private:
-  QSize Outside() const;  // what the window takes beyond its content
+  QSize Outside() const;  // the size of the frame and the menu bar together
   void FitToContent();
   void ShiftToFocus();
 
@@ -67,7 +69,7 @@ class NativeWindow : public QMainWindow {
   QSize largest_ = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
   bool resizeable_ = false;
   QSize outside_ = {0, 0};
-  bool takes_any_size_ = false;
+  bool accepts_any_size_ = false;
   bool menu_bar_visible_ = true;
 };
 

@@ -1,4 +1,4 @@
-#include "desktop/accessibility/screen_reader.h"
+#include "desktop/accessibility/screen_reader_notifier.h"
 
 #include <algorithm>
 #include <utility>
@@ -21,25 +21,26 @@ bool ChangesNothing(const QAccessibleEvent& event) {
 
 }  // namespace
 
-ScreenReader::ScreenReader() {
+ScreenReaderNotifier::ScreenReaderNotifier() {
   InstallAccessibleInterfaces();
-  QAccessible::installUpdateHandler(&ScreenReader::OnEvent);
+  QAccessible::installUpdateHandler(&ScreenReaderNotifier::OnEvent);
 }
 
-ScreenReader::~ScreenReader() { QAccessible::installUpdateHandler(nullptr); }
+ScreenReaderNotifier::~ScreenReaderNotifier() { QAccessible::installUpdateHandler(nullptr); }
 
-void ScreenReader::OnEvent(QAccessibleEvent* event) {
-  if (!RunState::Of<ScreenReader>().Keeps(*event)) Send(*event);
+void ScreenReaderNotifier::OnEvent(QAccessibleEvent* event) {
+  auto* notifier = RunState::Find<ScreenReaderNotifier>();
+  if (notifier == nullptr || !notifier->HoldsBack(*event)) Send(*event);
 }
 
-bool ScreenReader::Keeps(const QAccessibleEvent& event) {
+bool ScreenReaderNotifier::HoldsBack(const QAccessibleEvent& event) {
   // Parts of a widget, as the items of a menu, have no object of their own.
   const bool whole = event.object() != nullptr && event.child() == -1;
   switch (event.type()) {
     case QAccessible::Focus:
       focused_ = whole ? event.object() : nullptr;
       if (!whole) known_ = {};
-      if (whole) TellSoon();
+      if (whole) NotifyLater();
       return whole;
     case QAccessible::PopupMenuEnd:
       // Qt sends no focus event when a menu closes.
@@ -57,34 +58,34 @@ bool ScreenReader::Keeps(const QAccessibleEvent& event) {
     case QAccessible::TextRemoved:
     case QAccessible::TextUpdated:
       if (!whole || event.object() != known_.object) return ChangesNothing(event);
-      TellSoon();
+      NotifyLater();
       return true;
     case QAccessible::TextCaretMoved:
     case QAccessible::TextSelectionChanged:
-      if (whole) TellSoon();
+      if (whole) NotifyLater();
       return whole;
     default:
       return false;
   }
 }
 
-void ScreenReader::TellSoon() {
+void ScreenReaderNotifier::NotifyLater() {
   if (std::exchange(due_, true)) return;
-  const auto tell = [this] { Tell(); };
+  const auto tell = [this] { Notify(); };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
-void ScreenReader::NotifyFocusLater() {
+void ScreenReaderNotifier::NotifyFocusLater() {
   const auto notify = [this] {
     if (QApplication::activePopupWidget() != nullptr || QApplication::focusWidget() == nullptr)
       return;
     focused_ = QApplication::focusWidget();
-    TellSoon();
+    NotifyLater();
   };
   QMetaObject::invokeMethod(this, notify, Qt::QueuedConnection);
 }
 
-void ScreenReader::Tell() {
+void ScreenReaderNotifier::Notify() {
   due_ = false;
   const Known before = std::exchange(known_, {});
   QObject* focused = std::exchange(focused_, nullptr);
@@ -93,18 +94,18 @@ void ScreenReader::Tell() {
   if (focused != nullptr && focused != before.object) {
     QAccessibleEvent event(focused, QAccessible::Focus);
     Send(event);
-    TellText(before, StateOf(before.object));
-    TellSelection({}, known_);
+    NotifyText(before, StateOf(before.object));
+    NotifySelection({}, known_);
   } else {
-    TellText(before, known_);
-    TellSelection(before, known_);
+    NotifyText(before, known_);
+    NotifySelection(before, known_);
   }
   for (const Announcement& announcement : std::exchange(announcements_, {})) {
     if (announcement.widget != nullptr) Say(*announcement.widget, announcement.text);
   }
 }
 
-ScreenReader::Known ScreenReader::StateOf(QObject* object) {
+ScreenReaderNotifier::Known ScreenReaderNotifier::StateOf(QObject* object) {
   Known known;
   known.object = object;
   QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(object);
@@ -116,16 +117,17 @@ ScreenReader::Known ScreenReader::StateOf(QObject* object) {
   return known;
 }
 
-// Qt calls the handler for every event, and has no other way past it.
-void ScreenReader::Send(QAccessibleEvent& event) {
+// updateAccessibility() always calls the installed handler, so OnEvent is removed while the event
+// is sent.
+void ScreenReaderNotifier::Send(QAccessibleEvent& event) {
   QAccessible::installUpdateHandler(nullptr);
   QAccessible::updateAccessibility(&event);
-  QAccessible::installUpdateHandler(&ScreenReader::OnEvent);
+  QAccessible::installUpdateHandler(&ScreenReaderNotifier::OnEvent);
 }
 
-void ScreenReader::TellText(const Known& before, const Known& now) {
+void ScreenReaderNotifier::NotifyText(const Known& before, const Known& now) {
   if (now.object == nullptr || before.text == now.text) return;
-  // What stands behind the caret has most likely stood there before.
+  // The text behind the caret has most likely not changed.
   const auto limit = std::min(before.text.size(), now.text.size());
   const auto behind_caret = std::min(limit, now.text.size() - std::max(now.caret, 0));
   qsizetype tail = 0;
@@ -142,7 +144,7 @@ void ScreenReader::TellText(const Known& before, const Known& now) {
   Send(event);
 }
 
-void ScreenReader::TellSelection(const Known& before, const Known& now) {
+void ScreenReaderNotifier::NotifySelection(const Known& before, const Known& now) {
   if (now.caret == -1) return;
   if (now.caret != before.caret) {
     QAccessibleTextCursorEvent event(now.object, now.caret);
@@ -155,16 +157,16 @@ void ScreenReader::TellSelection(const Known& before, const Known& now) {
   }
 }
 
-void ScreenReader::Announce(QWidget& widget, const QString& text) {
-  auto* reader = RunState::Find<ScreenReader>();
+void ScreenReaderNotifier::Announce(QWidget& widget, const QString& text) {
+  auto* reader = RunState::Find<ScreenReaderNotifier>();
   if (reader == nullptr || !QAccessible::isActive() || !widget.isActiveWindow()) return;
   reader->announcements_.push_back({&widget, text});
-  reader->TellSoon();
+  reader->NotifyLater();
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 
-void ScreenReader::Say(QWidget& widget, const QString& text) {
+void ScreenReaderNotifier::Say(QWidget& widget, const QString& text) {
   QAccessibleAnnouncementEvent event(&widget, text);
   Send(event);
 }
@@ -173,16 +175,16 @@ void ScreenReader::Say(QWidget& widget, const QString& text) {
 
 // For a changed value that is a text, and for nothing else, Qt raises the event by which Windows
 // has a text spoken (UiaRaiseNotificationEvent).
-void ScreenReader::Say(QWidget& widget, const QString& text) {
+void ScreenReaderNotifier::Say(QWidget& widget, const QString& text) {
   QAccessibleValueChangeEvent event(&widget, text);
   Send(event);
 }
 
 #else
 
-// Readers speak the name of a notification that comes to be shown. It is a child without a size of
-// the widget, which keeps its own role and description.
-void ScreenReader::Say(QWidget& widget, const QString& text) {
+// Screen readers speak the name of a notification when an ObjectShow event is sent for it. It is a
+// child without a size, so that the widget keeps its own role and description.
+void ScreenReaderNotifier::Say(QWidget& widget, const QString& text) {
   static constexpr const char* kName = "fundlet notification";
   auto* notification = widget.findChild<QWidget*>(kName, Qt::FindDirectChildrenOnly);
   if (notification == nullptr) {
