@@ -52,6 +52,11 @@ elsewhere g++-aarch64-linux-gnu aarch64-linux-gnu-g++
 elsewhere g++-s390x-linux-gnu s390x-linux-gnu-g++
 elsewhere g++-mingw-w64-x86-64-posix x86_64-w64-mingw32-g++-posix
 elsewhere wine             wine
+windows g++-mingw-w64-x86-64-posix x86_64-w64-mingw32-g++-posix
+windows dpkg-dev         dpkg-source
+windows nsis             makensis
+windows googletest       -
+windows wine             wine
 bench   libbenchmark-dev  -
 bench   python3           python3
 TABLE

@@ -9,3 +9,6 @@ for size in 16 22 24 32 48 64 128 256; do
   [ "$size" -gt 24 ] || drawing=fundlet-small.svg
   rsvg-convert --width "$size" --height "$size" --output "fundlet-$size.png" "$drawing"
 done
+
+# Windows takes its pictures from one file; the large ones may be kept as they are.
+icotool --create --output=fundlet.ico fundlet-{16,24,32,48}.png --raw=fundlet-{64,128,256}.png

@@ -1,6 +1,5 @@
 #include "desktop/base/property_set.h"
 
-#include <cstdlib>
 #include <optional>
 
 #include <gtest/gtest.h>

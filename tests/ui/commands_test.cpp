@@ -37,7 +37,7 @@ TEST_F(Commands, WorkFromButtonMenuAndShortcut) {
     EXPECT_EQ(Selected("StartYearField"), Text("StartYearField"));
     Calculate();
     const std::string name = "Plän 😀 " + age;
-    ExpectDialog(BySaving(folder_.Path() / name));
+    ExpectDialog(BySaving((folder_.Path() / name).string()));
     save[way]();
     const std::string saved = folder_.Read(name);
     EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 10 + 27);
@@ -67,7 +67,7 @@ TEST_F(Commands, ProposeTheLastFolderAndAskBeforeReplacingAFile) {
   };
   fs::create_directories(folder_.Path() / "Documents");
   fs::create_directories(folder_.Path() / "elsewhere");
-  const std::string mine = folder_.Path() / "elsewhere" / "mine";
+  const std::string mine = (folder_.Path() / "elsewhere" / "mine").string();
   Calculate();
   propose("Documents", BySaving(mine));
   folder_.Write("elsewhere/mine", "old");
@@ -169,7 +169,7 @@ TEST_F(Commands, EndTheProgramEvenWithHelpOrAMessageOpen) {
         Calculate();
         ExpectDialog([&](QWidget& dialog) {
           ExpectDialog(by_closing_main);
-          BySaving(folder_.Path() / "old.txt")(dialog);
+          BySaving((folder_.Path() / "old.txt").string())(dialog);
         });
         user::Shortcut(Qt::Key_S);
       },

@@ -65,7 +65,7 @@ class RandomWalk : public StartedTest {
       AnswerAnyDialog();
       const bool saving = dialog.windowTitle() == "Save" && Below(2) == 0;
       const Answer answers[] = {ByKey(Qt::Key_Escape), ByCloseBox()};
-      saving ? BySaving(folder_.Path() / ("plan" + std::to_string(saved_++)))(dialog)
+      saving ? BySaving((folder_.Path() / ("plan" + std::to_string(saved_++))).string())(dialog)
              : OneOf(answers)(dialog);
     });
   }
