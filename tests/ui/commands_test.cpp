@@ -147,7 +147,7 @@ TEST_F(Commands, ShowTheVersionOrReportAMissingFunction) {
   }
   SimulateMissingLibraries(false);
   EXPECT_EQ(TakeDialogs(),
-            (Texts{"FundletVersion " FUNDLET_VERSION,
+            (Texts{"About Fundlet: FundletVersion " FUNDLET_VERSION,
                    "“About Fundlet…” could not be carried out. The function “NSClassFromString” "
                    "was not found in the library “Cocoa”."}));
 }

@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QPushButton>
 
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
@@ -127,6 +128,7 @@ TEST_F(Controls, LetTheCancelButtonBePressedByEscapeAlone) {
 
 TEST_F(Controls, BringADialogToTheFrontWhenTheyArePressedBeneathIt) {
   CalculateRefused([](QWidget& dialog) {
+    EXPECT_EQ(static_cast<QMessageBox&>(dialog).defaultButton()->text(), "OK");
     const std::pair<std::function<void()>, bool> inputs[] = {
         {[] { QTest::mouseMove(Main().Native().windowHandle(), QPoint(9, 9)); }, false},
         {[] { user::Click(Found("StartYearField")); }, true},

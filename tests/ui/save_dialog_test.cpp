@@ -28,7 +28,7 @@ void ByYes(QWidget& question) {
 }
 
 std::string QuestionAbout(const fs::path& file) {
-  return file.filename().string() + " already exists.\nDo you want to replace it?";
+  return "Save: " + file.filename().string() + " already exists.\nDo you want to replace it?";
 }
 
 // The dialog starts in the folder Documents. In it, above it, beneath it and beside it are folders
@@ -184,7 +184,7 @@ TEST_F(SaveDialog, RefusesATextThatNamesNoFileAndKeepsIt) {
           ClickSave(dialog);
         else
           user::Key(Qt::Key_Return);
-        EXPECT_EQ(TakeDialogs(), Texts{Absolute(refusal)});
+        EXPECT_EQ(TakeDialogs(), Texts{"Save: " + Absolute(refusal)});
         EXPECT_EQ(FocusName(), "fileNameEdit");
         EXPECT_EQ(NameIn(dialog).text().toStdString(), Absolute(typed));
       }

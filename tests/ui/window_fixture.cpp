@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTimer>
 #include <QWindow>
 
@@ -224,8 +225,9 @@ void FundletTest::Watch() {
 
 void FundletTest::Handle(QWidget& dialog) {
   const auto* box = qobject_cast<QMessageBox*>(&dialog);
-  const QString text = box != nullptr ? box->text() + box->informativeText() : dialog.windowTitle();
-  shown_.push_back(text.toStdString());
+  QString text = dialog.windowTitle();
+  if (box != nullptr) text += ": " + box->text() + box->informativeText();
+  shown_.push_back(text.remove(QRegularExpression("^Fundlet: ")).toStdString());
   if (expected_.empty()) {
     ADD_FAILURE() << "unexpected dialog: " << shown_.back();
     dialog.close();

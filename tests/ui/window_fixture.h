@@ -92,7 +92,8 @@ class FundletTest : public ::testing::Test {
   void End();  // ends the run and keeps the preferences folder for the next
   void ExpectDialog(Answer answer) { expected_.push_back(std::move(answer)); }
   void ForgetExpected() { expected_.clear(); }
-  std::vector<std::string> TakeDialogs();  // the texts of the dialogs since the last call
+  // Titles and texts of the dialogs since the last call, without the usual title "Fundlet".
+  std::vector<std::string> TakeDialogs();
 
   static aFundletWindow& Main() { return aFundletWindow::Instance(); }
   static Plan& ThePlan() { return Main().ThePlan(); }
