@@ -158,7 +158,7 @@ work_with_the_mouse() {
   expect 'colour beside the content' '#CCFFCC' "$(colour_at 900 400)"
   press Tab
   type_text 60
-  press super+shift+m ctrl+p
+  press ctrl+p
   expect_parameters 'after typing in the maximised window' "07df3c04$remembered"
   read -r x y width rest < <(window_place "$main")
   click_in "$main" $((width - 17)) 17
