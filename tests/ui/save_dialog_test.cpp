@@ -1,5 +1,6 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QTreeView>
@@ -209,8 +210,10 @@ TEST_F(SaveDialog, TakesTheFileOrFolderSelectedInTheList) {
       list.selectionModel()->select(
           in_list().front(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     };
+    user::Replace("mine");
     select("sub");
     ClickSave(dialog);
+    EXPECT_EQ(NameIn(dialog).text().toStdString(), "mine");
     select("old");
     ExpectDialog(ByYes);
     ClickSave(dialog);
@@ -231,6 +234,19 @@ TEST_F(SaveDialog, WritesNothingOnceItIsClosed) {
   });
   user::Shortcut(Qt::Key_S);
   EXPECT_EQ(TakeSchedules(), Texts());
+}
+
+TEST_F(SaveDialog, BreaksTheLinesOfAMessageAboutALongName) {
+  StartAmongFiles();
+  ExpectDialog([this](QWidget& dialog) {
+    ExpectDialog([](QWidget& message) {
+      EXPECT_LT(message.findChild<QLabel*>("qt_msgbox_label")->minimumSizeHint().width(), 600);
+      message.close();
+    });
+    Enter(dialog, std::string(150, 'm') + '/', false);
+    dialog.close();
+  });
+  user::Shortcut(Qt::Key_S);
 }
 
 TEST_F(SaveDialog, FitsAMessageAboutALongPathOnTheScreen) {

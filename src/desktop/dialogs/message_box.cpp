@@ -14,6 +14,24 @@ namespace {
 
 constexpr int kFieldLines = 4;          // of the field with the whole text
 constexpr qsizetype kShortestEnd = 40;  // characters that are shown of each end of a text
+constexpr int kLongestWord = 40;        // characters; longer words are broken
+constexpr QChar kBreak = u'\u200B';     // zero width space
+
+// QLabel breaks no word, and would cut off a file name wider than the message.
+QString WithBreaks(const QString& text) {
+  QString broken;
+  int word = 0;
+  for (const QChar c : text) {
+    const bool part_of_last = c.isLowSurrogate() || c.isMark();
+    if (word >= kLongestWord && !part_of_last) {
+      broken += kBreak;
+      word = 0;
+    }
+    broken += c;
+    word = c.isSpace() || c == '/' ? 0 : word + 1;
+  }
+  return broken;
+}
 
 }  // namespace
 
@@ -21,7 +39,8 @@ MessageBox::MessageBox(QWidget* parent, Icon icon, const QString& text) : QMessa
   setTextFormat(Qt::PlainText);
   setWindowTitle(QApplication::applicationName());
   setIcon(icon);
-  setText(text);
+  setText(WithBreaks(text));
+  if (auto* label = findChild<QLabel*>("qt_msgbox_label")) label->setAccessibleName(text);
 }
 
 void MessageBox::AddOnlyButton(const QString& caption) {
@@ -44,7 +63,7 @@ void MessageBox::showEvent(QShowEvent* event) {
 }
 
 void MessageBox::AddFieldWithWholeText() {
-  auto* field = new QPlainTextEdit(text(), this);
+  auto* field = new QPlainTextEdit(text().remove(kBreak), this);
   field->setReadOnly(true);
   field->setTabChangesFocus(true);
   field->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -53,7 +72,6 @@ void MessageBox::AddFieldWithWholeText() {
   auto* grid = qobject_cast<QGridLayout*>(layout());
   field->show();
   if (grid != nullptr) grid->addWidget(field, grid->rowCount(), 0, 1, -1);
-  if (auto* label = findChild<QLabel*>("qt_msgbox_label")) label->setAccessibleName(text());
 }
 
 }  // namespace fundlet

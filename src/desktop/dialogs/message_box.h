@@ -4,8 +4,9 @@
 
 namespace fundlet {
 
-// A box with a plain text, titled with the program's name. A text too high for the screen loses its
-// middle, and is shown whole in a field that scrolls.
+// A box with a plain text, titled with the program's name. A word that is too long for a line is
+// broken. A text too high for the screen loses its middle, and is shown whole in a field that
+// scrolls.
 class MessageBox : public QMessageBox {
  public:
   MessageBox(QWidget* parent, Icon icon, const QString& text);

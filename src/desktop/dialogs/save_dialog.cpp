@@ -53,9 +53,9 @@ class SaveWidget : public QFileDialog {
     if (!UsesQtsDialog()) return QFileDialog::accept();
     const TypedPath typed = ReadTypedPath(name_->text(), directory().path());
     if (const QString folder = FolderInList(); !folder.isEmpty()) {
-      Open(folder);
+      Open(folder, name_->text());
     } else if (typed.kind == TypedPath::Kind::Folder) {
-      Open(typed.path);
+      Open(typed.path, proposed_name_);
     } else if (typed.kind == TypedPath::Kind::Refused) {
       Refuse(typed.reason);
     } else if (MayWrite(typed.path)) {
@@ -97,9 +97,9 @@ class SaveWidget : public QFileDialog {
     return QFileInfo(path).isDir() ? path : QString();
   }
 
-  void Open(const QString& folder) {
+  void Open(const QString& folder, const QString& name) {
     setDirectory(folder);
-    name_->setText(proposed_name_);
+    name_->setText(name);
     name_->selectAll();
     name_->setFocus();
   }
