@@ -105,6 +105,8 @@ wayland_windows() {
 # Ends all processes of the screen, the last first, and removes its folder.
 close_screen() {
   local i
+  # The programs of Windows would stay if wineserver went before them.
+  [ ! -d "$screen_folder/wine" ] || wineserver --kill || true
   for ((i = ${#screen_processes[@]} - 1; i >= 0; i--)); do
     kill "${screen_processes[i]}" 2>/dev/null || true
     wait "${screen_processes[i]}" 2>/dev/null || true
