@@ -129,9 +129,7 @@ void aFundletWindow::SaveSchedule() {
 void aFundletWindow::SaveParameters() { fundlet::SaveParameters(plan_, *this); }
 void aFundletWindow::RestoreParameters() { fundlet::RestoreParameters(plan_, *this); }
 
-void aFundletWindow::StartParameters() {
-  fundlet::StartParameters(plan_, *this);
-}
+void aFundletWindow::StartParameters() { fundlet::StartParameters(plan_, *this); }
 
 bool aFundletWindow::ErrorDetected() { return fundlet::ErrorDetected(plan_, *this); }
 void aFundletWindow::DisplayParameters() { fundlet::DisplayParameters(plan_, *this); }

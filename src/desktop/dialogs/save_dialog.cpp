@@ -60,7 +60,7 @@ class SaveWidget : public QFileDialog {
       Refuse(typed.reason);
     } else if (MayWrite(typed.path)) {
       path_ = typed.path;
-      QDialog::accept();
+      done(Accepted);
     }
   }
 

@@ -10,8 +10,8 @@ namespace fundlet {
 
 // A dialog that blocks input to the windows and dialogs beneath it. Qt's own modality
 // (Qt::ApplicationModal) would also keep a window beneath from being closed: here closing one
-// dismisses the dialog. Only a dialog that Windows itself shows keeps the windows beneath from being
-// closed, as it does in every program.
+// dismisses the dialog. Only a dialog that Windows itself shows keeps the windows beneath from
+// being closed, as it does in every program.
 class BlockingDialog {
  public:
   // Shows the dialog, which belongs to its parentWidget(), and returns when it is finished. The
