@@ -17,15 +17,15 @@ has_settled() {
   [ "$(wc -l <"$log")" -eq "$lines" ]
 }
 
-# after KEY PATTERN [UNWANTED] presses the key, and waits until what the pattern tells is heard.
-# Nobody is to be told of the wheel, or that a text is deleted or no longer selected, but of what was
-# typed over.
+# after KEY PATTERN [UNWANTED] presses the key, and waits until speech that matches the pattern is
+# heard. Except for the text that a digit replaces, Orca must not speak of the wheel, or of text that
+# is deleted or no longer selected.
 after() {
   from=$(wc -l <"$log")
   case $1 in
     start) ;;
     [0-9]) type_text "$1" ;;
-    # At a person's pace: each key goes to the reader first, and an Alt that comes back after its
+    # At a user's pace: each key goes to Orca first, and an Alt that comes back after its
     # letter closes the menu again.
     *+*) xdotool keydown "${1%+*}" sleep 0.4 key "${1#*+}" sleep 0.4 keyup "${1%+*}" ;;
     *) press "$1" ;;
@@ -44,11 +44,11 @@ export XDG_DATA_HOME=$screen_folder/data QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 log=$screen_folder/orca.log
 "$launcher" --launch-immediately 2>/dev/null &
 screen_processes+=($!)
-# To a terminal it writes each line at once.
+# To a terminal Orca writes each line at once.
 script -qfc 'orca --replace --debug-file /dev/tty -e speech' "$log" </dev/null >/dev/null 2>&1 &
 screen_processes+=($!)
 wait_for 60 is_heard 'Screen reader on'
-# It says so before it has asked for any event.
+# Orca says so before it has asked for any event.
 wait_for 60 has_settled
 "$program" 2>"$screen_folder/program.log" &
 screen_processes+=($!)

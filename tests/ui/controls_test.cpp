@@ -63,7 +63,7 @@ TEST_F(Controls, NarrowACaptionThatIsTooWideForItsFrame) {
   }
 }
 
-TEST_F(Controls, TellAndTakeTheSelectionOfAFieldForAScreenReader) {
+TEST_F(Controls, GiveAndSetTheSelectionOfAFieldForAScreenReader) {
   Fill("StartFundletField", "1,234.56");
   auto& field = Main().StartFundletField();
   QAccessibleInterface* face = QAccessible::queryAccessibleInterface(field.Native());

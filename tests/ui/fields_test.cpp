@@ -175,7 +175,7 @@ TEST_F(FieldInput, SelectsAllAtTheFirstClickAndAtADoubleClick) {
   EXPECT_EQ(Selected("EndFundletField"), "9100,000");
 }
 
-TEST_F(FieldInput, TakesAPasteWholeOrNotAtAll) {
+TEST_F(FieldInput, AcceptsAPasteWholeOrNotAtAll) {
   const std::function<void()> roads[] = {
       [] { user::Shortcut(Qt::Key_V); },
       [] { user::Key(Qt::Key_Insert, Qt::ShiftModifier); },
