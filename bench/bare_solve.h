@@ -14,7 +14,7 @@ namespace fundlet::bench {
 struct BareSolve {
   std::vector<double> balance;
   std::vector<std::int64_t> drawing;
-  double draw = 0.0;  // that was found, dollars per year
+  double draw = 0.0;  // the draw that was found, in dollars per year
   int levels = 0;     // the number of levels run
 
   // Solves a plan of at least one year, in at most so many levels, at least 1.

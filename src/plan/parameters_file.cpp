@@ -37,7 +37,7 @@ void ReadParameters(BinaryStream& stream, Plan& plan) {
     if (field == FocusCode::StartYear) {
       plan.StartYear = stream.ReadInt16();
     } else if (parameter.whole != nullptr) {
-      // The sign goes with the wider type. NOLINTNEXTLINE(bugprone-signed-char-misuse)
+      // The conversion keeps the sign. NOLINTNEXTLINE(bugprone-signed-char-misuse)
       plan.*parameter.whole = stream.ReadInt8();
     } else {
       plan.*parameter.Real() = stream.ReadDouble();

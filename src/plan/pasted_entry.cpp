@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-// What other programs write in place of a character, and that character.
+// Characters that other programs write, and the characters that replace them here.
 constexpr std::string_view kVariants[][2] = {
     {"\u00A0", " "}, {"\u2007", " "}, {"\u2009", " "}, {"\u202F", " "}, {"\u2019", "'"},
     {"\u2212", "-"}, {"£", "$"},      {"€", "$"},      {"¥", "$"},
@@ -97,7 +97,7 @@ bool Suits(const Pasted& pasted, const Parameter& parameter) {
 }  // namespace
 
 std::optional<std::string> PastedEntry(FocusCode field, std::string_view text, std::size_t limit) {
-  constexpr std::size_t kLongest = 100;  // bytes; no field takes so many digits
+  constexpr std::size_t kLongest = 100;  // bytes; no field accepts so many digits
   if (text.size() > kLongest) return std::nullopt;
   std::string plain(text);
   for (const auto& [variant, character] : kVariants) plain = ReplaceAll(plain, variant, character);

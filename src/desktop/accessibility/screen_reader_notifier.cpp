@@ -34,7 +34,7 @@ void ScreenReaderNotifier::OnEvent(QAccessibleEvent* event) {
 }
 
 bool ScreenReaderNotifier::HoldsBack(const QAccessibleEvent& event) {
-  // Parts of a widget, as the items of a menu, have no object of their own.
+  // Parts of a widget, such as the items of a menu, have no object of their own.
   const bool whole = event.object() != nullptr && event.child() == -1;
   switch (event.type()) {
     case QAccessible::Focus:
@@ -71,8 +71,7 @@ bool ScreenReaderNotifier::HoldsBack(const QAccessibleEvent& event) {
 
 void ScreenReaderNotifier::NotifyLater() {
   if (std::exchange(due_, true)) return;
-  const auto tell = [this] { Notify(); };
-  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &ScreenReaderNotifier::Notify, Qt::QueuedConnection);
 }
 
 void ScreenReaderNotifier::NotifyFocusLater() {
@@ -158,10 +157,10 @@ void ScreenReaderNotifier::NotifySelection(const Known& before, const Known& now
 }
 
 void ScreenReaderNotifier::Announce(QWidget& widget, const QString& text) {
-  auto* reader = RunState::Find<ScreenReaderNotifier>();
-  if (reader == nullptr || !QAccessible::isActive() || !widget.isActiveWindow()) return;
-  reader->announcements_.push_back({&widget, text});
-  reader->NotifyLater();
+  auto* notifier = RunState::Find<ScreenReaderNotifier>();
+  if (notifier == nullptr || !QAccessible::isActive() || !widget.isActiveWindow()) return;
+  notifier->announcements_.push_back({&widget, text});
+  notifier->NotifyLater();
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
@@ -173,8 +172,8 @@ void ScreenReaderNotifier::Say(QWidget& widget, const QString& text) {
 
 #elif defined(Q_OS_WIN)
 
-// For a changed value that is a text, and for nothing else, Qt raises the event by which Windows
-// has a text spoken (UiaRaiseNotificationEvent).
+// Qt calls UiaRaiseNotificationEvent(), by which Windows has a text spoken, only for a changed
+// value that is a text.
 void ScreenReaderNotifier::Say(QWidget& widget, const QString& text) {
   QAccessibleValueChangeEvent event(&widget, text);
   Send(event);

@@ -48,7 +48,7 @@ bool IsHeldCommand(const QKeyEvent& event) {
 }
 
 // Not while a handler runs or a message is open, because the handler works on the text.
-bool TakesDrop(const QLineEdit& field, const QDropEvent& event) {
+bool AcceptsDrop(const QLineEdit& field, const QDropEvent& event) {
   return event.mimeData()->hasText() && !field.isReadOnly() && !Gate().Busy();
 }
 
@@ -194,11 +194,11 @@ void EntryWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 void EntryWidget::dragEnterEvent(QDragEnterEvent* event) { dragMoveEvent(event); }
 
 void EntryWidget::dragMoveEvent(QDragMoveEvent* event) {
-  event->setAccepted(TakesDrop(*this, *event));
+  event->setAccepted(AcceptsDrop(*this, *event));
 }
 
 void EntryWidget::dropEvent(QDropEvent* event) {
-  event->setAccepted(TakesDrop(*this, *event));
+  event->setAccepted(AcceptsDrop(*this, *event));
   // The dragged text stays where it comes from.
   event->setDropAction(Qt::CopyAction);
   if (event->isAccepted()) Replace(event->mimeData()->text());

@@ -17,7 +17,7 @@ constexpr int kMillisecondsPerSpoke = 60;
 class WheelWidget : public QWidget {
  public:
   WheelWidget() {
-    // Before the name, which has Qt make and keep what a screen reader sees.
+    // Set before the name, because setAccessibleName() makes Qt create and keep the interface.
     SetAccessibleRole(*this, QAccessible::Animation);
     setAccessibleName("Busy");
   }

@@ -22,7 +22,7 @@ namespace fundlet {
 
 namespace {
 
-// Where the last file of this run went, empty before there is one.
+// The folder of the last file that the dialog gave in this run; empty before the first.
 struct SaveFolder {
   QString path;
 };
@@ -48,7 +48,8 @@ class SaveWidget : public QFileDialog {
   QString Path() const { return UsesQtsDialog() ? path_ : selectedFiles().value(0); }
 
  protected:
-  // Qt reads a name by what its list has read of the folder by then, and may so take another file.
+  // QFileDialog looks the name up in a list that may not be complete yet, and may so choose another
+  // file.
   void accept() override {
     if (!UsesQtsDialog()) return QFileDialog::accept();
     const TypedPath typed = ReadTypedPath(name_->text(), directory().path());
@@ -76,10 +77,10 @@ class SaveWidget : public QFileDialog {
     name_ = findChild<QLineEdit*>("fileNameEdit");
     list_ = findChild<QListView*>("listView");
     save_ = findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Save);
-    // The list that pops up beneath a name being typed takes the keyboard from it and gives it
-    // back; on Wayland a letter typed meanwhile is lost.
+    // The popup of QCompleter takes the keyboard focus from the name and gives it back; on Wayland
+    // a letter typed meanwhile is lost.
     name_->setCompleter(nullptr);
-    // Qt would select in the list what it takes the name for.
+    // While a name is typed, Qt would select the file in the list that the name seems to mean.
     disconnect(name_, &QLineEdit::textChanged, this, nullptr);
     connect(name_, &QLineEdit::textEdited, list_->selectionModel(),
             &QItemSelectionModel::clearSelection);

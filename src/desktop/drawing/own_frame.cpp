@@ -77,8 +77,8 @@ class FrameWidget : public QWidget {
   bool eventFilter(QObject* /*object*/, QEvent* event) override {
     if (event->type() == QEvent::Enter) dragged_ = false;
     if (event->type() == QEvent::Resize) {
-      // While the user drags an edge, the desktop may ask for less than xdg_toplevel.set_min_size
-      // says, and Qt 6.8 takes it. At other times any size has to be taken.
+      // While the user drags an edge, the compositor may demand less than the size given with
+      // xdg_toplevel.set_min_size, and Qt 6.8 complies. At other times any size must be accepted.
       if (dragged_) window_.resize(window_.size().expandedTo(window_.minimumSize()));
       Fit();
     }

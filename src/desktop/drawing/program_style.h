@@ -19,8 +19,8 @@ class ProgramStyle : public QProxyStyle {
   using QProxyStyle::polish;
 
   // QPixmapCache keys contain QPalette::cacheKey(), which differs for each window even if the
-  // palettes are equal, and entries stay. Drawing with one shared copy of equal palettes keeps the
-  // memory constant however often a window is opened.
+  // palettes are equal, and the cache keeps its entries. Drawing with one shared copy of equal
+  // palettes keeps the memory constant however often a window is opened.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

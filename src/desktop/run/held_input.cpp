@@ -107,7 +107,7 @@ void HeldInput::StopAwaiting() {
 
 // If the release and the press of an auto-repeat reach Qt separately, Qt takes them for a release
 // and a new press. Equal time stamps give them away: nobody does both within a millisecond.
-// On Windows Qt keeps both together, and the time stamps are those of Qt's own handling.
+// Not on Windows, where Qt marks each auto-repeat, and sets the time stamps itself.
 bool HeldInput::IsUnmarkedRepeat(QObject* object, const QEvent& event) {
   if (!IsKey(event) || !object->isWindowType()) return false;
   if (QGuiApplication::platformName() == "windows") return false;

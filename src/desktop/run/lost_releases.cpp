@@ -11,7 +11,7 @@ namespace {
 constexpr LPARAM kWasDown = LPARAM{KF_REPEAT} << 16;
 constexpr LPARAM kIsReleased = LPARAM{KF_UP} << 16;
 
-// Qt tells the release of a modifier key on in any case.
+// Qt delivers each release of a modifier key, also one that follows no press.
 bool IsModifier(WPARAM key) {
   return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU || key == VK_LWIN || key == VK_RWIN;
 }

@@ -4,17 +4,16 @@
 
 namespace fundlet {
 
-// Gives Qt, on Windows, the release of a key where Qt has missed it. Qt takes each press of a key
-// for a repetition until it has seen the release, and a window that is not Qt's may have got that,
-// as the system's save dialog gets those of the keys that open it; a held key answers no message,
-// and a held shortcut does nothing. Windows itself says with each press whether the key was down
-// before. There is one while the desktop runs.
+// Supplies, on Windows, the key releases that Qt has missed, such as those of the keys that open
+// the system's save dialog, which go to that dialog. Until Qt has seen the release of a key, each
+// press of the key counts as an auto-repeat, which answers no message and runs no shortcut. Windows
+// says with each press whether the key was down before. Each run has one.
 class LostReleases : public QAbstractNativeEventFilter {
  public:
   LostReleases();
 
-  // Sends Qt the release before a press of a key that was up. Qt passes over the release of a key
-  // that it does not know to be down.
+  // Sends WM_KEYUP before the press of a key that was up. Qt ignores the release of a key that it
+  // does not know to be down.
   bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 };
 

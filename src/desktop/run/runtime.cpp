@@ -109,8 +109,8 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
     const PlatformMessages messages;
     parts_->application = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
   }
-  // Qt's search for fonts takes a good part of the opening, and runs beside the connection
-  // to the desktop from here on. Nothing of the program's own leaves this thread.
+  // Qt's search for fonts would delay the first window, so it runs on a thread of its own. All code
+  // of the program runs on this thread.
   parts_->font_search = std::async([] { QFontDatabase::families(); });
   QApplication::setApplicationName(ToQt(App().Name));
   QApplication::setApplicationVersion(ToQt(App().Version));
@@ -125,10 +125,10 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   const auto commit_composition = [] {
     if (const Window* front = Window::Front(); front != nullptr) front->CommitComposition();
   };
-  const auto show_enabling = [] {
+  const auto update_menus = [] {
     if (Window* front = Window::Front(); front != nullptr) front->UpdateMenuItems();
   };
-  Gate().SetHooks({App().Report, commit_composition, show_enabling,
+  Gate().SetHooks({App().Report, commit_composition, update_menus,
                    [&held_input] { held_input.ScheduleReplay(); }});
   Gate().Enter("Start", late);
 }

@@ -37,8 +37,8 @@ class OpenDialog {
   OpenDialog& operator=(const OpenDialog&) = delete;
 };
 
-// Whether Windows shows the dialog. Qt opens such a dialog in QDialog::exec() alone, and not where
-// it is non-modal.
+// Whether Windows shows the dialog. Qt opens such a dialog only in QDialog::exec(), and only if it
+// is modal.
 bool IsShownByWindows(const QDialog& dialog) {
   const auto* files = qobject_cast<const QFileDialog*>(&dialog);
   return QGuiApplication::platformName() == "windows" && files != nullptr &&
@@ -58,7 +58,8 @@ void BlockingDialog::Run(QDialog& dialog) {
     Dismiss(&dialog);
     loop.quit();
   });
-  // A message at the start comes before any window has been painted, which reads the icon.
+  // The icon is otherwise read after a window has been painted; a message at the start comes
+  // before.
   NativeWindow::ReadProgramIcon();
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
@@ -77,7 +78,7 @@ bool BlockingDialog::IsOpen() { return !OpenDialogs().empty(); }
 
 namespace {
 
-// Whether the object is one of the program's windows, or a dialog that another one lies over.
+// Whether the object is one of the program's windows, or a dialog beneath another dialog.
 bool IsBeneath(QObject* object) {
   if (NativeWindow::Of(object) != nullptr) return true;
   const auto* widget = qobject_cast<QWidget*>(object);

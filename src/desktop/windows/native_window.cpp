@@ -194,7 +194,7 @@ bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
   return QMainWindow::eventFilter(object, event);
 }
 
-// Moves the content by as little as brings the focus into sight.
+// Moves the content just far enough that the control with the focus is visible.
 void NativeWindow::ShiftToFocus() {
   const QSize visible = centralWidget()->size();
   QPoint place = content_->pos();
