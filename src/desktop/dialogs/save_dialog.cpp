@@ -51,7 +51,10 @@ class SaveWidget : public QFileDialog {
   // QFileDialog looks the name up in a list that may not be complete yet, and may so choose another
   // file.
   void accept() override {
-    if (!UsesQtsDialog()) return QFileDialog::accept();
+    if (!UsesQtsDialog()) {
+      QFileDialog::accept();
+      return;
+    }
     const TypedPath typed = ReadTypedPath(name_->text(), directory().path());
     if (const QString folder = FolderInList(); !folder.isEmpty()) {
       Open(folder, name_->text());

@@ -17,19 +17,25 @@ namespace fundlet {
 
 namespace {
 
-// Whether the widget would enter the text of a key with Alt or Meta. Not for keys that type: AltGr
-// is Control and Alt on Windows, and the Option key of a Mac is Alt.
+// The modifiers of the key without those that type: AltGr is Control and Alt on Windows, and the
+// Option key of a Mac is Alt.
+Qt::KeyboardModifiers CommandModifiers(const QKeyEvent& key) {
+#if defined(Q_OS_MACOS)
+  return key.modifiers() & ~Qt::AltModifier;
+#elif defined(Q_OS_WIN)
+  const bool alt_gr = key.modifiers().testFlags(Qt::ControlModifier | Qt::AltModifier);
+  return alt_gr ? key.modifiers() & ~Qt::AltModifier : key.modifiers();
+#else
+  return key.modifiers();
+#endif
+}
+
+// Whether the widget would enter the text of a key with Alt or Meta.
 bool EntersCommand(const QObject& object, const QKeyEvent& key) {
   const auto* widget = qobject_cast<const QWidget*>(&object);
   if (widget == nullptr || !widget->testAttribute(Qt::WA_InputMethodEnabled)) return false;
-  Qt::KeyboardModifiers modifiers = key.modifiers();
-#ifdef Q_OS_MACOS
-  modifiers &= ~Qt::AltModifier;
-#elif defined(Q_OS_WIN)
-  if (modifiers.testFlags(Qt::ControlModifier | Qt::AltModifier)) modifiers &= ~Qt::AltModifier;
-#endif
-  return modifiers.testAnyFlags(Qt::AltModifier | Qt::MetaModifier) && !key.text().isEmpty() &&
-         key.text().at(0).isPrint();
+  return CommandModifiers(key).testAnyFlags(Qt::AltModifier | Qt::MetaModifier) &&
+         !key.text().isEmpty() && key.text().at(0).isPrint();
 }
 
 // The digit, 1 to 9, of a key in the digits' row that types another character and is pressed with
