@@ -5,7 +5,8 @@
 set -euo pipefail
 program=$1
 pictures=${2:-}
-. "$(dirname "$0")/../../tools/screen.sh"
+here=$(dirname "$0")
+. "$here/../../tools/screen.sh"
 
 session=${SESSION:-x11}
 need Xvfb openbox xdotool import
@@ -69,25 +70,12 @@ dialog_has_closed() {
   wait_for 20 is_active "$main" || fail 'the save dialog stayed'
 }
 
-# The schedule of a plan of four years from 2010 on.
-typed_schedule() {
-  local i
-  for i in 'Start with 1 Jan 2010' 'Age on 1 Jan: 70 Years' 'Life Expectancy: 4 Years' 'COLA: 2.5%' \
-    'Initial Fundlet: $500,000' 'After-Tax Fundlet APR: 5.0%' \
-    'IInitial Social Security: $20,000' 'Terminal Fundlet: $100,000' ''; do
-    printf '%s\t\t\t\t\t%b' "$i" "$line_end"
-  done
-  printf '%s\t%s\t%s\t%s\t%s\t%s%b' \
-    Year 'Age on 1 Jan' 'Begining Balance' Draw 'Ending Balance' 'Age on 31 Dec' "$line_end" \
-    2010 70 500,000 131,468 411,522 71 "$line_end" 2011 71 411,522 134,755 315,666 72 "$line_end" \
-    2012 72 315,666 138,123 211,984 73 "$line_end" 2013 73 211,984 141,577 100,000 74 "$line_end"
-}
-
-typed_schedule_is_in() { typed_schedule | cmp -s - "$folder/$1"; }
+# The expected schedule is that of a plan of four years from 2010 on.
+typed_schedule_is_in() { sed "s/\$/$line_end/" "$here/../files/schedule.txt" | cmp -s - "$folder/$1"; }
 
 expect_typed_schedule() { # NAME
   dialog_has_closed
-  wait_for 20 typed_schedule_is_in "$1" || expect "$1" "$(typed_schedule)" "$(cat "$folder/$1")"
+  wait_for 20 typed_schedule_is_in "$1" || fail "the saved schedule:"$'\n'"$(cat "$folder/$1")"
 }
 
 # Asked whether a file may be replaced, the answer No leads back to the dialog with its name.
@@ -102,26 +90,6 @@ replace_schedule() {
   wait_for 20 other_window_of_is_active "$process" "$dialog" || fail 'no second question'
   press alt+y
   expect_typed_schedule typed.txt
-}
-
-# A solve that would end in an alert and in a draw of 0, cancelled: the last draw is shown again.
-cancel_a_solve() {
-  local shown
-  shown=$(result_picture)
-  press ctrl+r
-  type_fields 2010 55 40 3 500,000 8 0 0
-  xdotool key --delay 0 Return Escape
-  sleep 1
-  is_active "$main" || fail 'Escape did not cancel the solve'
-  wait_for 20 result_picture_is "$shown" || fail 'a cancelled solve changed the result'
-}
-
-open_about() {
-  xdotool keydown alt sleep 0.4 key f sleep 0.4 keyup alt
-  press Up Return
-  wait_for 20 other_window_of_is_active "$process" "$main" || fail 'no About box'
-  press Escape
-  wait_for 20 is_active "$main" || fail 'Escape did not close the About box'
 }
 
 picture() { # NAME
@@ -166,7 +134,7 @@ work_with_the_mouse() {
 is_wide() { [ "$(window_place "$1" | awk '{ print $3 }')" -gt 1000 ]; }
 
 trap close_screen EXIT
-line_end='\n'
+line_end=
 launch() { exec "$program"; }
 typed_path() { echo "$1"; }
 case $session in
@@ -175,14 +143,13 @@ case $session in
   windows)
     open_windows 1024x640
     parameters=$windows_home/AppData/Roaming/Fundlet.Preferences
-    line_end='\r\n'
+    line_end='\r'
     launch() { exec wine "$program"; }
     typed_path() { windows_path "$1"; }
     ;;
 esac
 folder=$screen_folder
 parameters=${parameters:-$XDG_CONFIG_HOME/Fundlet.Preferences}
-tab=$'\t'
 
 if [ "$session" != windows ] && ldd "$program" | grep -iE 'network|curl|ssl|http'; then
   fail 'linked with what talks to a network'
@@ -212,18 +179,9 @@ press Return
 name_schedule typed.txt
 expect_typed_schedule typed.txt
 replace_schedule
-if command -v soffice >/dev/null; then
-  LC_ALL=C.UTF-8 soffice "-env:UserInstallation=file://$folder/profile" --headless \
-    --infilter='Text - txt - csv (StarCalc):9,34,76,1' --outdir "$folder" --convert-to \
-    'csv:Text - txt - csv (StarCalc):44,34,76,1,,0,false,false' "$folder/typed.txt" >/dev/null
-  diff <(tail -n 4 "$folder/typed.txt" | tr -d , | tr '\t' ,) <(tail -n 4 "$folder/typed.csv") ||
-    fail 'the numbers in a spreadsheet program'
-fi
 press ctrl+p
 remembered=3f9999999999999a411e8480000000003fa999999999999a40d388000000000040f86a0000000000
 expect_parameters 'after remembering' "07da4604$remembered"
-open_about
-cancel_a_solve
 
 press ctrl+r
 type_fields 2011
@@ -237,17 +195,4 @@ press ctrl+p
 expect_parameters 'after typing over the refused age' "07db3c04$remembered"
 
 if [ "$session" = wayland ]; then work_with_the_mouse; else press alt+F4; fi
-wait "$process" || fail "exit status $?"
-
-start_program
-type_text 2012
-press Return
-wait_for 20 result_picture_is_not "$nothing_drawn" || fail 'no result after a second start'
-name_schedule again.txt
-dialog_has_closed
-wait_for 20 test -s "$folder/again.txt" || fail 'no schedule after a second start'
-expect 'first year after a second start' \
-  "2012${tab}60${tab}500,000${tab}131,468${tab}411,522${tab}61" \
-  "$(sed -n 11p "$folder/again.txt" | tr -d '\r')"
-press ctrl+q
 wait "$process" || fail "exit status $?"
