@@ -1,13 +1,10 @@
-#include <QAccessible>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QToolTip>
 
-#include "desktop/controls/text_area.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/global_module.h"
-#include "ui/help_window.h"
 #include "ui/main_layout.h"
 
 namespace fundlet {
@@ -49,16 +46,13 @@ using Fields = StartedTest;
 using HeldKey = FieldInput;
 
 TEST_F(Fields, SelectTheForcedValueAfterARefusal) {
-  Fill("StartAgeField", "60");
-  user::Shortcut(Qt::Key_P);
   const std::tuple<const char*, const char*, const char*, Answer> refusals[] = {
       {"StartAgeField", "51", "52", ByKey(Qt::Key_Escape)},
-      {"YearsLeftField", "40", "39", ByKey(Qt::Key_Return)},
+      {"YearsLeftField", "41", "40", ByKey(Qt::Key_Return)},
       {"COLAField", "100", "99.99", ByButton()},
       {"EndFundletField", "1000001", "0", ByCloseBox()},
   };
   for (const auto& [field, typed, forced, answer] : refusals) {
-    user::Shortcut(Qt::Key_R);
     Fill(field, typed);
     ExpectDialog([&answer = answer](QWidget& dialog) {
       EXPECT_EQ(static_cast<QMessageBox&>(dialog).icon(), QMessageBox::Warning);
@@ -67,36 +61,28 @@ TEST_F(Fields, SelectTheForcedValueAfterARefusal) {
     Calculate();
     EXPECT_EQ(FocusName(), field);
     EXPECT_EQ(Selected(field), forced);
-    EXPECT_EQ(Result(), "Initial Year Draw:  $0");
   }
 }
 
 TEST_F(Fields, KeepTheFocusWhileAMenuOrAToolTipIsOpen) {
-  Fill("StartFundletField", "1234.5");
   const std::function<void()> openings[] = {
       [] { user::OpenMenu("File"); },
       [] { user::Key(Qt::Key_E, Qt::AltModifier); },
+      [] { user::OpenContextMenu(); },
   };
+  Fill("StartFundletField", "1234.5");
   for (const auto& open : openings) {
     user::Shortcut(Qt::Key_A);
     open();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     user::Key(Qt::Key_Escape);
-    EXPECT_EQ(Selected("StartFundletField"), "1234.5");
-    EXPECT_EQ(ThePlan().StartFundlet, 1000000.0);
-    EXPECT_EQ(FocusName(), "StartFundletField");
     user::Key(Qt::Key_Alt);
     EXPECT_EQ(FocusName(), "StartFundletField");
+    EXPECT_EQ(Selected("StartFundletField"), "1234.5");
   }
   QToolTip::showText({}, "tip");
   user::Settle();
   EXPECT_EQ(Text("StartFundletField"), "1234.5");
-  user::Key(Qt::Key_End);
-  user::Type("6");
-  user::OpenContextMenu();
-  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-  EXPECT_EQ(Text("StartFundletField"), "1234.56");
-  QApplication::activePopupWidget()->close();
 }
 
 TEST_F(Fields, OpenTheHelpAndShowTheirValueOnceLeft) {
@@ -118,10 +104,6 @@ TEST_F(Fields, RegainTheFocusAtActivationsUntilTheNextCalculation) {
         user::Key(Qt::Key_F1);
         user::Key(Qt::Key_Return);
       },
-      [this] {
-        ExpectDialog(ByKey(Qt::Key_Escape));
-        user::Choose("File", "About Fundlet…");
-      },
       [] { user::VisitAnotherWindow(); },
   };
   const auto expect_focus_after_each = [&](const char* field) {
@@ -138,41 +120,36 @@ TEST_F(Fields, RegainTheFocusAtActivationsUntilTheNextCalculation) {
 }
 
 TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
-  const auto check = [](auto& control) {
-    control.SetText("a😀b😀");
-    control.SetSelStart(2);
-    control.SetSelLength(99);
-    EXPECT_EQ(control.SelStart(), 2);
-    EXPECT_EQ(control.SelLength(), 2);
-    control.SetSelStart(1);
-    control.SetSelLength(1);
-    EXPECT_EQ(control.SelLength(), 1);
-  };
-  check(Main().COLAField());
-  Main().COLAField().SetFocus();
-  check(Main().COLAField());
-  EXPECT_EQ(Selected("COLAField"), "😀");
-  user::Key(Qt::Key_F1);
-  check(GlobalModule::HelpWindow->TextField());
+  TextField& field = Main().StartYearField();
+  field.SetText("a😀b");
+  field.SetSelStart(2);
+  field.SetSelLength(99);
+  EXPECT_EQ(field.SelStart(), 2);
+  EXPECT_EQ(field.SelLength(), 1);
+  user::Key(Qt::Key_End);
+  user::Type("12");
+  EXPECT_EQ(Text("StartYearField"), "a😀b1");
 }
 
 TEST_F(FieldInput, SelectsAllAtTheFirstClickAndAtADoubleClick) {
   QWidget& field = Found("EndFundletField");
-  const QPoint middle = field.mapTo(field.window(), field.rect().center());
+  QWindow* window = field.window()->windowHandle();
+  const QPoint head = field.mapTo(field.window(), QPoint(6, 10));
   const auto double_click = [&] {
-    QTest::mouseDClick(field.window()->windowHandle(), Qt::LeftButton, {}, middle);
+    QTest::mouseDClick(window, Qt::LeftButton, {}, head);
     user::Settle();
   };
   double_click();
   EXPECT_EQ(Selected("EndFundletField"), "100,000");
   user::Click(Found("StartYearField"));
-  user::Click(field, QPoint(6, 10));
-  EXPECT_EQ(Selected("EndFundletField"), "100,000");
-  user::Click(field, QPoint(2, 10));
-  user::Type("9");
-  EXPECT_EQ(Text("EndFundletField"), "9100,000");
+  for (const bool brings_focus : {true, false}) {
+    QTest::mousePress(window, Qt::LeftButton, {}, head);
+    QTest::mouseMove(window, head + QPoint(20, 0));
+    QTest::mouseRelease(window, Qt::LeftButton, {}, head + QPoint(20, 0));
+    EXPECT_EQ(Selected("EndFundletField") == "100,000", brings_focus);
+  }
   double_click();
-  EXPECT_EQ(Selected("EndFundletField"), "9100,000");
+  EXPECT_EQ(Selected("EndFundletField"), "100,000");
 }
 
 TEST_F(FieldInput, AcceptsAPasteWholeOrNotAtAll) {
@@ -197,26 +174,20 @@ TEST_F(FieldInput, AcceptsAPasteWholeOrNotAtAll) {
     user::Shortcut(Qt::Key_Z);
     EXPECT_EQ(Text("SocialSecurityField"), "7");
   }
-  Fill("StartFundletField", "");
-  Paste("1,000,000,000");
-  EXPECT_EQ(Text("StartFundletField"), "1000000000");
   user::Replace("");
   Paste("250");
   Repeat(Main().Native(), Qt::Key_V, true, Qt::ControlModifier);
-  EXPECT_EQ(Text("StartFundletField"), "250");
+  EXPECT_EQ(Text("SocialSecurityField"), "250");
 }
 
 TEST_F(FieldInput, ReplacesTheTextByADropAndReadsIt) {
   QWidget& field = Found("FundletAPRField");
-  Fill("FundletAPRField", "5.0");
+  Fill("COLAField", "3");
   Drop(field, "3.46");
-  EXPECT_EQ(Text("FundletAPRField"), "3.46");
+  EXPECT_EQ(FocusName(), "FundletAPRField");
+  EXPECT_EQ(ThePlan().COLA, 0.03);
   Drop(field, "3.4.6");
   EXPECT_EQ(Text("FundletAPRField"), "3.46");
-  Fill("COLAField", "2");
-  Drop(field, "4");
-  EXPECT_EQ(FocusName(), "FundletAPRField");
-  EXPECT_EQ(ThePlan().COLA, 0.02);
   user::VisitAnotherWindow([&] { Drop(field, " 4.5"); });
   EXPECT_EQ(Text("FundletAPRField"), "4.5");
   EXPECT_EQ(ThePlan().FundletAPR, 0.045);
@@ -230,11 +201,6 @@ TEST_F(FieldInput, KeepsWithinTheLimitAndCanBeUndone) {
   commit.setCommitString("34");
   QCoreApplication::sendEvent(&Found("COLAField"), &commit);
   EXPECT_EQ(Text("COLAField"), "1.25");
-  QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&Found("StartAgeField"));
-  for (const auto& [set, text] : {std::pair{"400", "65"}, {"70", "70"}}) {
-    reader->setText(QAccessible::Value, set);
-    EXPECT_EQ(Text("StartAgeField"), text);
-  }
   Fill("StartFundletField", "");
   Main().StartFundletField().SetText("1,000,000,000");
   user::Type("5");
@@ -250,10 +216,6 @@ TEST_F(FieldInput, KeepsWithinTheLimitAndCanBeUndone) {
   for (int deleted = 0; deleted < 3; ++deleted) user::Key(Qt::Key_Backspace);
   user::Type("56");
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,5");
-  Fill("StartYearField", "");
-  Main().StartYearField().SetText("😀😀😀");
-  user::Type("12");
-  EXPECT_EQ(Text("StartYearField"), "😀😀😀1");
 }
 
 TEST_F(FieldInput, EntersThePointOfTheKeypadAndNothingWithAltOrMeta) {
@@ -317,8 +279,6 @@ TEST_F(HeldKey, AnswersNoDialogButTypesAName) {
     ByKey(Qt::Key_Escape)(dialog);
   };
   CalculateRefused(only_by_a_fresh_key);
-  ExpectDialog(only_by_a_fresh_key);
-  user::Choose("File", "About Fundlet…");
   Calculate();
   ExpectDialog([&](QWidget& dialog) {
     auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");

@@ -28,20 +28,16 @@ class RandomWalk : public StartedTest {
     return QApplication::activeWindow()->windowTitle() == "Fundlet Help";
   }
 
-  void SwitchWindow() {
-    if (GlobalModule::HelpShowing && Below(2) == 0) {
-      user::CloseBox(GlobalModule::HelpWindow->Native());
-    } else {
-      user::VisitAnotherWindow();
-    }
-  }
-  void TypeAPlanThatPasses() {
+  static void TypeAPlanThatPasses() {
     if (HelpInFront()) return;
     Fill("StartYearField", "");
     for (const char* text : {"2020", "60", "20", "2", "500000", "5", "1000", "0"}) {
       user::Type(text);
       user::Key(Qt::Key_Tab);
     }
+  }
+  static void CloseHelp() {
+    if (GlobalModule::HelpShowing) user::CloseBox(GlobalModule::HelpWindow->Native());
   }
   void ChooseItem() {
     static const QStringList menus[] = {
@@ -52,13 +48,17 @@ class RandomWalk : public StartedTest {
     user::Choose(menu.front(), OneOf(menu.mid(1)));
   }
   void Step() {
-    const int kind = Below(20);
-    if (kind < 6) return user::Type(OneOf(kTexts));
-    if (kind < 11) return user::Key(OneOf(kKeys));
-    if (kind < 14) return user::Shortcut(static_cast<Qt::Key>(OneOf(kLetters)));
-    if (kind < 16) return ChooseItem();
-    if (kind < 18) return user::Click(Found(OneOf(kControls)));
-    return kind == 18 ? SwitchWindow() : TypeAPlanThatPasses();
+    const std::function<void()> steps[] = {
+        [this] { user::Type(OneOf(kTexts)); },
+        [this] { user::Key(OneOf(kKeys)); },
+        [this] { user::Shortcut(static_cast<Qt::Key>(OneOf(kLetters))); },
+        [this] { ChooseItem(); },
+        [this] { user::Click(Found(OneOf(kControls))); },
+        [] { user::VisitAnotherWindow(); },
+        &CloseHelp,
+        &TypeAPlanThatPasses,
+    };
+    OneOf(steps)();
   }
   void AnswerAnyDialog() {
     ExpectDialog([this](QWidget& dialog) {

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QTreeView>
 
+#include "services/text.h"
 #include "tests/ui/window_fixture.h"
 
 namespace fundlet {
@@ -18,8 +19,12 @@ const char* const kProposed = "Draw Schedule.txt";
 
 QLineEdit& NameIn(const QWidget& dialog) { return *dialog.findChild<QLineEdit*>("fileNameEdit"); }
 
-void ClickSave(const QWidget& dialog) {
-  user::Click(*dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save));
+void Confirm(const QWidget& dialog, bool by_mouse) {
+  if (by_mouse) {
+    user::Click(*dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save));
+  } else {
+    user::Key(Qt::Key_Return);
+  }
 }
 
 void ByYes(QWidget& question) {
@@ -28,15 +33,11 @@ void ByYes(QWidget& question) {
   user::Click(*yes);
 }
 
-std::string QuestionAbout(const fs::path& file) {
-  return "Save: " + file.filename().string() + " already exists.\nDo you want to replace it?";
-}
-
 // The dialog starts in the folder Documents. In it, above it, beneath it and beside it are folders
 // with a file "old" each, and links to some of them.
 class SaveDialog : public FundletTest {
  protected:
-  void StartAmongFiles() {
+  void SetUp() override {
     MakeFiles();
     Start();
     Calculate();
@@ -56,24 +57,23 @@ class SaveDialog : public FundletTest {
 
   // The text with "@" replaced by the folder of all these files.
   std::string Absolute(const std::string& text) const {
-    return QString::fromStdString(text)
-        .replace("@", QString::fromStdString(folder_.Path()))
-        .toStdString();
+    return ReplaceAll(text, "@", folder_.Path().string());
+  }
+
+  void InDialog(const Answer& answer) {
+    ExpectDialog(answer);
+    user::Shortcut(Qt::Key_S);
   }
 
   // Types the name in the dialog key by key; presses Return or clicks Save.
-  void Enter(QWidget& dialog, const std::string& name, bool by_mouse) const {
+  void Enter(QWidget& dialog, const std::string& name, bool by_mouse = false) const {
     user::Replace(Absolute(name));
-    if (by_mouse) {
-      ClickSave(dialog);
-    } else {
-      user::Key(Qt::Key_Return);
-    }
+    Confirm(dialog, by_mouse);
   }
 
   // Saves under that name, and answers the question with Yes where one is expected.
   void Save(const std::string& name, bool by_mouse, bool asks = false) {
-    ExpectDialog([=, this](QWidget& dialog) {
+    InDialog([=, this](QWidget& dialog) {
       if (asks) ExpectDialog(ByYes);
       Enter(dialog, name, by_mouse);
       if (!dialog.isVisible()) return;
@@ -81,7 +81,6 @@ class SaveDialog : public FundletTest {
       ForgetExpected();
       dialog.close();
     });
-    user::Shortcut(Qt::Key_S);
   }
 
   // The files that hold a schedule; they are removed.
@@ -127,42 +126,41 @@ TEST_F(SaveDialog, WritesExactlyTheFileThatIsTyped) {
   for (const bool later : {false, true}) {
     for (const auto& row : rows) {
       SCOPED_TRACE(row.typed + std::string(later ? ", later" : ""));
-      if (!later || &row == rows) StartAmongFiles();
+      if (!later) End(), SetUp();
       MakeFiles();
       if (later) Save("@/Documents/first", false);
       TakeSchedules();
       TakeDialogs();
       Texts shown = {"Save"};
-      if (row.asks) shown.push_back(QuestionAbout(row.typed));
+      if (row.asks) {
+        shown.push_back("Save: " + fs::path(row.typed).filename().string() +
+                        " already exists.\nDo you want to replace it?");
+      }
       Save(row.typed, later, row.asks);
       EXPECT_EQ(TakeDialogs(), shown);
       EXPECT_EQ(TakeSchedules(), Texts{row.written});
-      if (!later) End();
     }
   }
 }
 
 TEST_F(SaveDialog, OpensATypedFolderAndProposesTheNameThere) {
-  StartAmongFiles();
-  ExpectDialog([this](QWidget& dialog) {
+  InDialog([this](QWidget& dialog) {
     const auto& files = static_cast<QFileDialog&>(dialog);
     const std::pair<const char*, const char*> rows[] = {
         {"sub", "@/Documents/sub"},     {"..", "@/Documents"},        {"../beside/", "@/beside"},
         {"~/Documents", "@/Documents"}, {"link", "@/Documents/link"}, {"//", "/"},
     };
     for (const auto& [typed, folder] : rows) {
-      Enter(dialog, typed, false);
+      Enter(dialog, typed);
       EXPECT_EQ(files.directory().path().toStdString(), Absolute(folder));
       EXPECT_EQ(NameIn(dialog).selectedText(), kProposed);
     }
     dialog.close();
   });
-  user::Shortcut(Qt::Key_S);
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
 TEST_F(SaveDialog, RefusesATextThatNamesNoFileAndKeepsIt) {
-  StartAmongFiles();
   const std::pair<std::string, std::string> rows[] = {
       {"", "Type a name for the file."},
       {"  ", "Type a name for the file."},
@@ -175,16 +173,13 @@ TEST_F(SaveDialog, RefusesATextThatNamesNoFileAndKeepsIt) {
       {"old/new", "“@/Documents/old” is not a folder. Choose another folder."},
       {"a\nb", "A file name cannot contain line breaks or tabs. Type the name without them."},
   };
-  ExpectDialog([&](QWidget& dialog) {
+  InDialog([&](QWidget& dialog) {
     TakeDialogs();
     for (const auto& [typed, refusal] : rows) {
       NameIn(dialog).setText(QString::fromStdString(Absolute(typed)));
       for (const bool by_mouse : {false, true}) {
         ExpectDialog(ByKey(Qt::Key_Return));
-        if (by_mouse)
-          ClickSave(dialog);
-        else
-          user::Key(Qt::Key_Return);
+        Confirm(dialog, by_mouse);
         EXPECT_EQ(TakeDialogs(), Texts{"Save: " + Absolute(refusal)});
         EXPECT_EQ(FocusName(), "fileNameEdit");
         EXPECT_EQ(NameIn(dialog).text().toStdString(), Absolute(typed));
@@ -192,13 +187,11 @@ TEST_F(SaveDialog, RefusesATextThatNamesNoFileAndKeepsIt) {
     }
     dialog.close();
   });
-  user::Shortcut(Qt::Key_S);
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
 TEST_F(SaveDialog, TakesTheFileOrFolderSelectedInTheList) {
-  StartAmongFiles();
-  ExpectDialog([this](QWidget& dialog) {
+  InDialog([this](QWidget& dialog) {
     auto& list = *dialog.findChild<QTreeView*>("treeView");
     const auto select = [&](const char* name) {
       const auto in_list = [&] {
@@ -212,47 +205,41 @@ TEST_F(SaveDialog, TakesTheFileOrFolderSelectedInTheList) {
     };
     user::Replace("mine");
     select("sub");
-    ClickSave(dialog);
+    Confirm(dialog, true);
     EXPECT_EQ(NameIn(dialog).text().toStdString(), "mine");
     select("old");
     ExpectDialog(ByYes);
-    ClickSave(dialog);
+    Confirm(dialog, true);
   });
-  user::Shortcut(Qt::Key_S);
   EXPECT_EQ(TakeSchedules(), Texts{"Documents/sub/old"});
 }
 
 TEST_F(SaveDialog, WritesNothingOnceItIsClosed) {
-  StartAmongFiles();
-  ExpectDialog([this](QWidget& dialog) {
+  InDialog([this](QWidget& dialog) {
     ExpectDialog([&](QWidget& question) {
       QTest::mouseClick(static_cast<QMessageBox&>(question).button(QMessageBox::Yes),
                         Qt::LeftButton);
       dialog.close();
     });
-    Enter(dialog, "old", false);
+    Enter(dialog, "old");
   });
-  user::Shortcut(Qt::Key_S);
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
 TEST_F(SaveDialog, BreaksTheLinesOfAMessageAboutALongName) {
-  StartAmongFiles();
-  ExpectDialog([this](QWidget& dialog) {
+  InDialog([this](QWidget& dialog) {
     ExpectDialog([](QWidget& message) {
       EXPECT_LT(message.findChild<QLabel*>("qt_msgbox_label")->minimumSizeHint().width(), 600);
       message.close();
     });
-    Enter(dialog, std::string(150, 'm') + '/', false);
+    Enter(dialog, std::string(150, 'm') + '/');
     dialog.close();
   });
-  user::Shortcut(Qt::Key_S);
 }
 
 TEST_F(SaveDialog, FitsAMessageAboutALongPathOnTheScreen) {
-  StartAmongFiles();
   const QString path = QString("/x").repeated(2500);
-  ExpectDialog([&](QWidget& dialog) {
+  InDialog([&](QWidget& dialog) {
     ExpectDialog([&](QWidget& message) {
       EXPECT_LT(message.height(), message.screen()->availableSize().height());
       const QString text = static_cast<QMessageBox&>(message).text();
@@ -262,9 +249,8 @@ TEST_F(SaveDialog, FitsAMessageAboutALongPathOnTheScreen) {
       message.close();
     });
     NameIn(dialog).setText(path);
-    ClickSave(dialog);
+    Confirm(dialog, true);
   });
-  user::Shortcut(Qt::Key_S);
 }
 
 }  // namespace
