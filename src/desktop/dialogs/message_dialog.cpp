@@ -1,20 +1,107 @@
 #include "desktop/dialogs/message_dialog.h"
 
 #include <QApplication>
+#include <QGridLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
 
 #include "desktop/base/qt_text.h"
 #include "desktop/dialogs/message_box.h"
+#include "desktop/windows/blocking_dialog.h"
 #include "desktop/windows/native_window.h"
 #include "desktop/windows/window.h"
 
 namespace fundlet {
 
+namespace {
+
+constexpr int kFieldLines = 4;          // of the field with the whole text
+constexpr qsizetype kShortestEnd = 40;  // characters that are shown of each end of a text
+constexpr int kLongestWord = 40;        // characters; longer words are broken
+constexpr QChar kBreak = u'\u200B';     // zero width space
+constexpr int kPictureSize = 64;
+constexpr int kAboutWidth = 160;  // of the text, so that the title can be read
+
+// QLabel breaks no word, and would cut off a file name wider than the message.
+QString WithBreaks(const QString& text) {
+  QString broken;
+  int word = 0;
+  for (const QChar c : text) {
+    const bool part_of_last = c.isLowSurrogate() || c.isMark();
+    if (word >= kLongestWord && !part_of_last) {
+      broken += kBreak;
+      word = 0;
+    }
+    broken += c;
+    word = c.isSpace() || c == '/' ? 0 : word + 1;
+  }
+  return broken;
+}
+
+}  // namespace
+
+MessageBox::MessageBox(QWidget* parent, Icon icon, const QString& text) : QMessageBox(parent) {
+  setTextFormat(Qt::PlainText);
+  setWindowTitle(QApplication::applicationName());
+  setIcon(icon);
+  setText(WithBreaks(text));
+  if (auto* label = findChild<QLabel*>("qt_msgbox_label")) label->setAccessibleName(text);
+}
+
+void MessageBox::AddOnlyButton(const QString& caption) {
+  QPushButton* button = addButton(caption, AcceptRole);
+  setDefaultButton(button);
+  setEscapeButton(button);
+}
+
+// QMessageBox sets its size when it is shown, and then whenever its text changes.
+void MessageBox::showEvent(QShowEvent* event) {
+  QMessageBox::showEvent(event);
+  const int highest = BlockingDialog::LargestSize(*this).height();
+  if (height() <= highest) return;
+  const QString whole = text();
+  AddFieldWithWholeText();
+  const int wanted = highest * 2 / 3;
+  for (qsizetype end = whole.size() / 2; height() > wanted && end > kShortestEnd; end -= end / 8) {
+    setText(whole.left(end) + "…" + whole.right(end));
+  }
+}
+
+void MessageBox::AddFieldWithWholeText() {
+  auto* field = new QPlainTextEdit(text().remove(kBreak), this);
+  field->setReadOnly(true);
+  field->setTabChangesFocus(true);
+  field->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  field->setFixedHeight(kFieldLines * field->fontMetrics().lineSpacing());
+  field->setAccessibleName("Whole message");
+  field->show();
+  if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
+    grid->addWidget(field, grid->rowCount(), 0, 1, -1);
+  }
+}
+
 const MessageDialogButton& MessageDialog::ShowModalWithin(Window* window) {
   MessageBox box(window != nullptr ? &window->Native() : nullptr,
                  Icon == kCaution ? QMessageBox::Warning : QMessageBox::NoIcon, ToQt(Message));
   box.AddOnlyButton(ToQt(ActionButton.Caption));
-  Window::RunDialog(box, window);
+  BlockingDialog::Run(box);
   return ActionButton;
+}
+
+void ShowAboutBox() {
+  Window* window = Window::Front();
+  const QString name = QApplication::applicationName();
+  MessageBox box(window != nullptr ? &window->Native() : nullptr, QMessageBox::NoIcon, name);
+  box.setWindowTitle("About " + name);
+  box.setInformativeText("Version " + QApplication::applicationVersion());
+  box.setIconPixmap(QApplication::windowIcon().pixmap(kPictureSize));
+  box.AddOnlyButton();
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->setColumnMinimumWidth(grid->columnCount() - 1, kAboutWidth);
+  }
+  BlockingDialog::Run(box);
 }
 
 void Beep() { QApplication::beep(); }

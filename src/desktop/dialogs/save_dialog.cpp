@@ -1,5 +1,9 @@
 #include "desktop/dialogs/save_dialog.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -13,7 +17,6 @@
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
 #include "desktop/dialogs/message_box.h"
-#include "desktop/dialogs/typed_path.h"
 #include "desktop/windows/blocking_dialog.h"
 #include "desktop/windows/native_window.h"
 #include "desktop/windows/window.h"
@@ -32,6 +35,56 @@ QString StartFolder() {
   if (!last.isEmpty() && QDir(last).exists()) return last;
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
+namespace fs = std::filesystem;
+
+// What the text in the name field means.
+struct TypedPath {
+  QString refusal;    // a message for the user; empty if the text names a file or a folder
+  QString path = {};  // absolute, without "." and ".."
+  bool is_folder = false;
+};
+
+fs::path ToPath(const QString& text) {
+  const QByteArray bytes = text.toUtf8();
+  return std::u8string(bytes.begin(), bytes.end());
+}
+
+fs::file_type TypeOf(const QString& path) {
+  std::error_code ignored;
+  return fs::status(ToPath(path), ignored).type();
+}
+
+QString FaultOf(fs::file_type type) {
+  if (type == fs::file_type::not_found) return "There is no folder “%1”.";
+  return type == fs::file_type::none ? "The folder “%1” cannot be opened."
+                                     : "“%1” is not a folder.";
+}
+
+// Reads a text, relative to the absolute path of the folder shown. "~" and "~/" are the user's
+// home folder; ".." is the folder above as the path shows it, also where a folder is a link. Blanks
+// and quotation marks belong to the name. A file need not exist, but its folder must, unless the
+// system cannot tell: writing the file then fails with the reason. A folder is another one than
+// that shown; a link to a folder is a folder.
+TypedPath ReadTypedPath(const QString& text, const QString& shown_folder) {
+  const bool at_home = text == "~" || text.startsWith("~/");
+  const QString typed = at_home ? QDir::homePath() + text.mid(1) : text;
+  // QDir::absoluteFilePath() would read ":name" as a resource of the program.
+  const QString path = QDir::cleanPath(typed.startsWith('/') ? typed : shown_folder + '/' + typed);
+  if (typed.trimmed().isEmpty() || path == shown_folder) return {"Type a name for the file."};
+  const auto is_control = [](QChar c) { return c.category() == QChar::Other_Control; };
+  if (std::any_of(path.begin(), path.end(), is_control)) {
+    return {"A file name cannot contain line breaks or tabs. Type the name without them."};
+  }
+  if (TypeOf(path) == fs::file_type::directory) return {{}, path, true};
+  const bool names_folder = typed.endsWith('/') || typed.endsWith("/.");
+  const qsizetype name_start = path.lastIndexOf('/');
+  const QString folder = names_folder ? path : path.left(std::max<qsizetype>(name_start, 1));
+  const fs::file_type type = TypeOf(folder);
+  const bool cannot_tell = type == fs::file_type::none && !names_folder;
+  if (type == fs::file_type::directory || cannot_tell) return {{}, path};
+  return {FaultOf(type).arg(folder) + " Choose another folder."};
 }
 
 class SaveWidget : public QFileDialog {
@@ -58,10 +111,10 @@ class SaveWidget : public QFileDialog {
     const TypedPath typed = ReadTypedPath(name_->text(), directory().path());
     if (const QString folder = FolderInList(); !folder.isEmpty()) {
       Open(folder, name_->text());
-    } else if (typed.kind == TypedPath::Kind::Folder) {
+    } else if (!typed.refusal.isEmpty()) {
+      Refuse(typed.refusal);
+    } else if (typed.is_folder) {
       Open(typed.path, proposed_name_);
-    } else if (typed.kind == TypedPath::Kind::Refused) {
-      Refuse(typed.reason);
     } else if (MayWrite(typed.path)) {
       path_ = typed.path;
       done(Accepted);
@@ -111,7 +164,8 @@ class SaveWidget : public QFileDialog {
   void Refuse(const QString& reason) {
     MessageBox refusal(this, QMessageBox::Warning, reason);
     refusal.AddOnlyButton();
-    RunOver(refusal);
+    refusal.setWindowTitle(windowTitle());
+    BlockingDialog::Run(refusal);
     name_->setFocus();
   }
 
@@ -123,15 +177,10 @@ class SaveWidget : public QFileDialog {
         QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     question.setDefaultButton(QMessageBox::No);
-    RunOver(question);
+    question.setWindowTitle(windowTitle());
+    BlockingDialog::Run(question);
     // The dialog may have been closed after the answer was given.
     return question.result() == QMessageBox::Yes && isVisible();
-  }
-
-  void RunOver(MessageBox& box) {
-    box.setWindowTitle(windowTitle());
-    BlockingDialog::Run(box);
-    activateWindow();
   }
 
   QString proposed_name_;
@@ -148,7 +197,7 @@ std::optional<FolderItem> GetSaveFolderItem(const std::string& filter,
   Window* window = Window::Front();
   SaveWidget dialog(window != nullptr ? &window->Native() : nullptr, ToQt(filter),
                     ToQt(proposed_name));
-  Window::RunDialog(dialog, window);
+  BlockingDialog::Run(dialog);
   const QString path = dialog.Path();
   if (dialog.result() != QDialog::Accepted || path.isEmpty()) return std::nullopt;
   RunState::Of<SaveFolder>().path = QFileInfo(path).absolutePath();

@@ -15,7 +15,8 @@ namespace fundlet {
 class BlockingDialog {
  public:
   // Shows the dialog, which belongs to its parentWidget(), and returns when it is finished. The
-  // dialogs over it are then dismissed, too.
+  // dialogs over it are then dismissed, too, and the parent is activated: if it is a Window, after
+  // the handler that has called this.
   static void Run(QDialog& dialog);
 
   // The size in pixels that a dialog may have at most, so that it fits its screen with its frame.

@@ -14,10 +14,9 @@
 
 #include "desktop/base/application.h"
 #include "desktop/base/qt_text.h"
-#include "desktop/controls/control.h"
 #include "desktop/drawing/own_frame.h"
 #include "desktop/drawing/program_style.h"
-#include "desktop/windows/window_events.h"
+#include "desktop/windows/window.h"
 
 namespace fundlet {
 
@@ -30,50 +29,45 @@ constexpr int kRingMargin = 2 * kRingWidth;  // the ring, and some of the ground
 // layout leaves between the controls.
 class ContentWidget : public QWidget {
  public:
-  ContentWidget(const WindowEvents& window, QWidget* parent) : QWidget(parent), window_(window) {}
+  ContentWidget(const Window& window, QWidget* parent) : QWidget(parent), window_(window) {}
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    const Control* ringed = window_.RingedControl();
-    if (ringed == nullptr) return;
+    const Control* focused = window_.Focused();
+    if (focused == nullptr || !focused->UseFocusRing()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Highlight), kRingWidth));
-    const QRectF control = ringed->Native()->geometry();
+    const QRectF control = focused->Native()->geometry();
     const double half = kRingWidth / 2.0;
     painter.drawRoundedRect(control.adjusted(-half, -half, half, half), kRingWidth, kRingWidth);
   }
 
  private:
-  const WindowEvents& window_;
+  const Window& window_;
 };
 
 }  // namespace
 
-NativeWindow::NativeWindow(WindowEvents& window) : window_(window) {
-  setAttribute(Qt::WA_DeleteOnClose, false);
-  setContextMenuPolicy(Qt::NoContextMenu);
+NativeWindow::NativeWindow(Window& window) : window_(window) {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                  Qt::WindowSystemMenuHint);
   setCentralWidget(new QWidget);
   content_ = new ContentWidget(window, centralWidget());
   centralWidget()->installEventFilter(this);
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
-  connect(qApp, &QApplication::focusChanged, this, &NativeWindow::ShiftToFocus);
 }
 
-// ~QWidget still emits focusChanged().
-NativeWindow::~NativeWindow() { disconnect(qApp, nullptr, this, nullptr); }
-
-NativeWindow* NativeWindow::Of(QObject* object) {
-  if (auto* widget = qobject_cast<QWidget*>(object)) {
-    return dynamic_cast<NativeWindow*>(widget->window());
-  }
+QWidget* NativeWindow::TopLevelOf(QObject* object) {
+  if (auto* widget = qobject_cast<QWidget*>(object)) return widget->window();
   for (QWidget* top : QApplication::topLevelWidgets()) {
-    auto* window = dynamic_cast<NativeWindow*>(top);
-    if (window != nullptr && window->windowHandle() == object) return window;
+    if (top->windowHandle() == object) return top;
   }
   return nullptr;
+}
+
+NativeWindow* NativeWindow::Of(QObject* object) {
+  return dynamic_cast<NativeWindow*>(TopLevelOf(object));
 }
 
 void NativeWindow::ReadProgramIcon() {
@@ -86,21 +80,12 @@ void NativeWindow::ReadProgramIcon() {
 }
 
 void NativeWindow::SetContentSize(int width, int height) {
-  content_size_ = {width, height};
+  content_->resize(width, height);
   FitToContent();
 }
 
-QSize NativeWindow::ContentSize() const {
-  return isVisible() && resizeable_ ? content_->size() : content_size_;
-}
-
-void NativeWindow::SetSmallest(int width, int height) {
-  smallest_ = {width, height};
-  FitToContent();
-}
-
-void NativeWindow::SetLargest(int width, int height) {
-  largest_ = {width, height};
+void NativeWindow::SetLimit(int& limit, std::int64_t pixels) {
+  limit = static_cast<int>(pixels);
   FitToContent();
 }
 
@@ -111,7 +96,7 @@ void NativeWindow::SetResizeable(bool resizeable) {
 
 QSize NativeWindow::Outside() const {
   const QMargins margins = contentsMargins();
-  const int menu_height = menus_ ? menuBar()->heightForWidth(content_size_.width()) : 0;
+  const int menu_height = menus_ ? menuBar()->heightForWidth(ContentSize().width()) : 0;
   return {margins.left() + margins.right(), margins.top() + margins.bottom() + menu_height};
 }
 
@@ -122,24 +107,15 @@ void NativeWindow::FitToContent() {
     setMinimumSize(resizeable_ ? smallest_ + outside_ : QSize(0, 0));
     setMaximumSize(largest);
   } else {
-    setMinimumSize((resizeable_ ? smallest_ : content_size_) + outside_);
-    setMaximumSize(((resizeable_ ? largest_ : content_size_) + outside_).boundedTo(largest));
+    setMinimumSize((resizeable_ ? smallest_ : ContentSize()) + outside_);
+    setMaximumSize(((resizeable_ ? largest_ : ContentSize()) + outside_).boundedTo(largest));
   }
-  content_->resize(content_size_);
-  ShiftToFocus();
-  if (!isMaximized() && !isFullScreen()) resize(content_size_ + outside_);
-}
-
-void NativeWindow::SetButton(Qt::WindowType button, bool present) {
-  setWindowFlag(button, present);
+  ShowFocus();
+  if (!isMaximized() && !isFullScreen()) resize(ContentSize() + outside_);
 }
 
 void NativeWindow::SetBackColor(Colour colour) {
   centralWidget()->setPalette(PaletteFor(QColor(colour.red, colour.green, colour.blue)));
-}
-
-void NativeWindow::SetHasBackColor(bool painted) {
-  centralWidget()->setAutoFillBackground(painted);
 }
 
 void NativeWindow::ShowMenus(const MenuItem& tree, MenuView::Callbacks callbacks) {
@@ -155,6 +131,11 @@ void NativeWindow::ShowFirst() {
   accepts_any_size_ = OwnFrame::AddTo(*this);
   resizeable_ = resizeable;
   if (accepts_any_size_) FitToContent();
+}
+
+void NativeWindow::Activate() {
+  activateWindow();
+  window_.Activated();
 }
 
 bool NativeWindow::event(QEvent* event) {
@@ -185,17 +166,16 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
 bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
   const bool resized = object == centralWidget() && event->type() == QEvent::Resize && isVisible();
   // The first show resizes the central widget from no size to the content's.
-  if (resized && resizeable_ && centralWidget()->size() != content_size_) {
-    content_size_ = centralWidget()->size();
-    content_->resize(content_size_);
+  if (resized && resizeable_ && centralWidget()->size() != ContentSize()) {
+    content_->resize(centralWidget()->size());
     window_.Resized();
   }
-  if (resized) ShiftToFocus();
+  if (resized) ShowFocus();
   return QMainWindow::eventFilter(object, event);
 }
 
-// Moves the content just far enough that the control with the focus is visible.
-void NativeWindow::ShiftToFocus() {
+void NativeWindow::ShowFocus() {
+  content_->update();
   const QSize visible = centralWidget()->size();
   QPoint place = content_->pos();
   const QWidget* focused = focusWidget();
@@ -205,7 +185,7 @@ void NativeWindow::ShiftToFocus() {
     place.setX(std::max(std::min(place.x(), visible.width() - shown.right() - 1), -shown.left()));
     place.setY(std::max(std::min(place.y(), visible.height() - shown.bottom() - 1), -shown.top()));
   }
-  const QSize hidden = (content_->size() - visible).expandedTo(QSize(0, 0));
+  const QSize hidden = (ContentSize() - visible).expandedTo(QSize(0, 0));
   content_->move(std::clamp(place.x(), -hidden.width(), 0),
                  std::clamp(place.y(), -hidden.height(), 0));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 #include <QKeyCombination>
@@ -10,7 +11,7 @@
 
 namespace fundlet {
 
-class WindowEvents;
+class Window;
 
 // The Qt window of a Window. Its central widget holds the content area. If the desktop environment
 // gives the window another size than that of its content, the content stands at the top left on a
@@ -18,10 +19,11 @@ class WindowEvents;
 // seen.
 class NativeWindow : public QMainWindow {
  public:
-  explicit NativeWindow(WindowEvents& window);
-  ~NativeWindow() override;
+  explicit NativeWindow(Window& window);
 
-  // The window that a QWidget or QWindow belongs to; null if that is a dialog.
+  // The window or dialog that a QWidget or QWindow belongs to; null for a QWindow without widgets.
+  static QWidget* TopLevelOf(QObject* object);
+  // The same; null if that is a dialog.
   static NativeWindow* Of(QObject* object);
 
   // Gives all windows the program's icon, unless they have it.
@@ -30,16 +32,20 @@ class NativeWindow : public QMainWindow {
   QWidget& Content() const { return *content_; }
 
   void SetContentSize(int width, int height);
-  QSize ContentSize() const;
+  QSize ContentSize() const { return content_->size(); }
   // Limits of the content size, in pixels; they apply only while the window is resizable.
-  void SetSmallest(int width, int height);
-  QSize Smallest() const { return smallest_; }
-  void SetLargest(int width, int height);
-  QSize Largest() const { return largest_; }
+  void SetMinWidth(std::int64_t width) { SetLimit(smallest_.rwidth(), width); }
+  void SetMinHeight(std::int64_t height) { SetLimit(smallest_.rheight(), height); }
+  void SetMaxWidth(std::int64_t width) { SetLimit(largest_.rwidth(), width); }
+  void SetMaxHeight(std::int64_t height) { SetLimit(largest_.rheight(), height); }
+  int MinHeight() const { return smallest_.height(); }
   void SetResizeable(bool resizeable);
-  void SetButton(Qt::WindowType button, bool present);
+  template <Qt::WindowType kButton>
+  void SetButton(bool present) {
+    setWindowFlag(kButton, present);
+  }
   void SetBackColor(Colour colour);
-  void SetHasBackColor(bool painted);
+  void SetHasBackColor(bool painted) { centralWidget()->setAutoFillBackground(painted); }
   void SetMenuBarVisible(bool visible) { menu_bar_visible_ = visible; }
 
   // Makes the menus, unless the menu bar is hidden. To be called once.
@@ -47,6 +53,11 @@ class NativeWindow : public QMainWindow {
   MenuView* Menus() const { return menus_.get(); }  // null if the window shows none
   // Shows the window for the first time.
   void ShowFirst();
+  // Draws the ring anew, and moves the content just far enough that the control with the focus is
+  // visible.
+  void ShowFocus();
+  // Makes the window the active one, which its Window hears of on every platform.
+  void Activate();
 
  protected:
   bool event(QEvent* event) override;
@@ -54,17 +65,15 @@ class NativeWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
-  QMenu* createPopupMenu() override { return nullptr; }
 
  private:
   QSize Outside() const;  // the size of the frame and the menu bar together
+  void SetLimit(int& limit, std::int64_t pixels);
   void FitToContent();
-  void ShiftToFocus();
 
-  WindowEvents& window_;
+  Window& window_;
   QWidget* content_;
   std::unique_ptr<MenuView> menus_;
-  QSize content_size_ = {0, 0};
   QSize smallest_ = {0, 0};
   QSize largest_ = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
   bool resizeable_ = false;

@@ -1,6 +1,7 @@
 #include "desktop/windows/window.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include <QKeyEvent>
@@ -16,27 +17,65 @@
 
 namespace fundlet {
 
-Window::Window() : native_(std::make_unique<NativeWindow>(static_cast<WindowEvents&>(*this))) {}
+Window::Window() : native_(std::make_unique<NativeWindow>(*this)) {}
 
 namespace {
 
 // The visible windows, the frontmost last.
-struct WindowOrder {
-  std::vector<Window*> windows;
-};
+struct WindowOrder : std::vector<Window*> {};
 
-std::vector<Window*>& VisibleWindows() { return RunState::Of<WindowOrder>().windows; }
+WindowOrder& VisibleWindows() { return RunState::Of<WindowOrder>(); }
+
+// The setter of a row that calls this function of the native window.
+template <typename Value, void (NativeWindow::*kFunction)(Value)>
+void SetNative(PropertyTarget& window, const PropertyValue& value) {
+  (static_cast<Window&>(window).Native().*kFunction)(std::get<Value>(value));
+}
 
 }  // namespace
+
+PropertyTable Window::Properties() const {
+  using Number = std::int64_t;
+  static constexpr auto kRows = std::to_array<PropertyRow>({
+      {"Width", 0, kThrough<&Window::SetWidth>},
+      {"Height", 0, kThrough<&Window::SetHeight>},
+      {"MinWidth", 64, &SetNative<Number, &NativeWindow::SetMinWidth>},
+      {"MinHeight", 64, &SetNative<Number, &NativeWindow::SetMinHeight>},
+      {"MaxWidth", 32000, &SetNative<Number, &NativeWindow::SetMaxWidth>},
+      {"MaxHeight", 32000, &SetNative<Number, &NativeWindow::SetMaxHeight>},
+      {"Frame", 0},
+      {"Title", "", kThrough<&Window::SetTitle>},
+      {"CloseButton", true, &SetNative<bool, &NativeWindow::SetButton<Qt::WindowCloseButtonHint>>},
+      {"Resizeable", false, &SetNative<bool, &NativeWindow::SetResizeable>},
+      {"MaximizeButton", false,
+       &SetNative<bool, &NativeWindow::SetButton<Qt::WindowMaximizeButtonHint>>},
+      {"MinimizeButton", true,
+       &SetNative<bool, &NativeWindow::SetButton<Qt::WindowMinimizeButtonHint>>},
+      {"FullScreenButton", false,
+       &SetNative<bool, &NativeWindow::SetButton<Qt::WindowFullscreenButtonHint>>},
+      {"Composite", false},
+      {"MacProcID", 0},
+      {"Placement", 0, kThrough<&Window::SetPlacement>},
+      {"Visible", true},  // a window shows when Show is called
+      {"LiveResize", true},
+      {"FullScreen", false},
+      {"HasBackColor", true, &SetNative<bool, &NativeWindow::SetHasBackColor>},
+      {"BackColor", kWhite, &SetNative<Colour, &NativeWindow::SetBackColor>},
+      {"MenuBarVisible", true, &SetNative<bool, &NativeWindow::SetMenuBarVisible>},
+  });
+  return kRows;
+}
+
+std::string Window::Described() const { return "window “" + FromQt(native_->windowTitle()) + "”"; }
 
 // Find, because a window may outlive the run and so the order of its windows.
 Window::~Window() {
   open_ = false;
-  if (auto* order = RunState::Find<WindowOrder>()) std::erase(order->windows, this);
+  if (auto* order = RunState::Find<WindowOrder>()) std::erase(*order, this);
 }
 
 Window* Window::Front() {
-  const std::vector<Window*>& windows = VisibleWindows();
+  const WindowOrder& windows = VisibleWindows();
   return windows.empty() ? nullptr : windows.back();
 }
 
@@ -98,21 +137,16 @@ void Window::Open() {
 
 void Window::Show() {
   if (!open_ || Gate().IsShut()) return;
-  if (!shown_once_) {
+  if (!std::exchange(shown_once_, true)) {
     FirstShow();
     return;
   }
-  if (native_->isMinimized()) {
-    native_->showNormal();
-  } else {
-    native_->show();
-  }
+  native_->setWindowState(native_->windowState() & ~Qt::WindowMinimized);
   native_->raise();
   native_->activateWindow();
 }
 
 void Window::FirstShow() {
-  shown_once_ = true;
   Control* first = ApplyTabOrder();
   native_->ShowMenus(MenuBar(),
                      {[this] { UpdateMenuItems(); }, [this](MenuItem& item) { Choose(item); }});
@@ -130,8 +164,7 @@ void Window::Centre() {
   constexpr int kTitleBar = 30;  // pixels; the desktop environments have lower ones
   const Screen screen(0);
   const int menus = native_->height() - Height();
-  const int most =
-      std::max(screen.AvailableHeight() - kTitleBar - menus, native_->Smallest().height());
+  const int most = std::max(screen.AvailableHeight() - kTitleBar - menus, native_->MinHeight());
   if (Height() > most) {
     SetHeight(most);
     Resized();
@@ -219,27 +252,16 @@ bool Window::KeyPressed(const QKeyEvent& event) {
   return used;
 }
 
-const Control* Window::RingedControl() const {
-  return focused_ != nullptr && focused_->UseFocusRing() ? focused_ : nullptr;
-}
-
 void Window::ShowEditMenu(const QPoint& place) {
   if (native_->Menus() != nullptr) native_->Menus()->ShowEditMenu(place);
 }
 
 QWidget& Window::Content() const { return native_->Content(); }
 
-void Window::RunDialog(QDialog& dialog, Window* window) {
-  BlockingDialog::Run(dialog);
-  if (window == nullptr) return;
-  window->native_->activateWindow();
-  window->Activated();
-}
-
 void Window::OnFocusGained(Control& control) {
   if (!open_ || focused_ == &control) return;
   Control* before = std::exchange(focused_, &control);
-  native_->Content().update();
+  native_->ShowFocus();
   Gate().EnterWithin([&] {
     if (before != nullptr) before->FireLostFocus();
     control.FireGotFocus();
@@ -249,7 +271,7 @@ void Window::OnFocusGained(Control& control) {
 void Window::OnFocusLost(Control& control) {
   if (!open_ || focused_ != &control) return;
   focused_ = nullptr;
-  native_->Content().update();
+  native_->ShowFocus();
   Gate().EnterWithin([&] { control.FireLostFocus(); });
 }
 

@@ -11,10 +11,7 @@
 #include "desktop/base/menu.h"
 #include "desktop/base/property_set.h"
 #include "desktop/controls/control.h"
-#include "desktop/windows/window_events.h"
 #include "services/exceptions.h"
-
-class QDialog;
 
 namespace fundlet {
 
@@ -26,7 +23,7 @@ class NativeWindow;
 //
 // While a handler runs, Event_Activate, menu handlers, a button's Action and a request to close are
 // queued until it returns. Events that it causes itself run at once, inside it.
-class Window : public PropertyTarget, public ControlOwner, private WindowEvents {
+class Window : public PropertyTarget, public ControlOwner {
  public:
   Window();
   ~Window() override;
@@ -88,9 +85,6 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
 
   // For the other classes of src/desktop.
   NativeWindow& Native() const { return *native_; }
-  // Shows a dialog, and returns when it is closed. The window, which may be null, is activated
-  // after the handler that has called this.
-  static void RunDialog(QDialog& dialog, Window* window);
   // Makes the text that an input method is composing part of the text of the focused control.
   void CommitComposition() const;
   // Enables the menu items that can be chosen now and disables the others; does nothing while a
@@ -108,12 +102,17 @@ class Window : public PropertyTarget, public ControlOwner, private WindowEvents 
   std::string Described() const override;
 
  private:
-  void Activated() override;
-  void Deactivated() override;
-  void CloseAsked() override;
-  void Resized() override;
-  bool KeyPressed(const QKeyEvent& event) override;
-  const Control* RingedControl() const override;
+  friend class NativeWindow;
+  // What the native window reports.
+  void Activated();  // by the system, or because a dialog over the window has closed
+  void Deactivated();
+  void CloseAsked();
+  void Resized();  // the user or the desktop environment has resized the content
+  // A key that no control has accepted. True if the window has a use for it.
+  bool KeyPressed(const QKeyEvent& event);
+
+  // 2 is the middle of the main screen; other numbers have no effect.
+  void SetPlacement(std::int64_t placement) { centred_ = placement == 2; }
   void FirstShow();
   void Choose(MenuItem& item);  // runs the item's handler or command if it is enabled
   void Centre();
