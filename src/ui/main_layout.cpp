@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "desktop/controls/alignment.h"
+#include "desktop/controls/control.h"
 #include "services/text.h"
 
 namespace fundlet::main_layout {

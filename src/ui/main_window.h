@@ -4,9 +4,8 @@
 #include <string>
 
 #include "desktop/controls/label.h"
-#include "desktop/controls/progress_wheel.h"
 #include "desktop/controls/push_button.h"
-#include "desktop/controls/separator.h"
+#include "desktop/controls/shapes.h"
 #include "desktop/controls/text_field.h"
 #include "desktop/windows/window.h"
 #include "plan/entry_fields.h"

@@ -107,4 +107,12 @@ struct PropertyMethod<Method> {
 template <auto Method>
 inline constexpr auto kThrough = &PropertyMethod<Method>::Set;
 
+// The setter of a row that stores the value in this data member.
+template <auto Member>
+inline constexpr auto kInto = [](PropertyTarget& target, const PropertyValue& value) {
+  [&]<typename Class, typename Value>(Value Class::*member) {
+    static_cast<Class&>(target).*member = std::get<Value>(value);
+  }(Member);
+};
+
 }  // namespace fundlet

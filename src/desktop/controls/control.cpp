@@ -2,8 +2,10 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QWidget>
 
+#include "desktop/base/application.h"
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
 #include "desktop/drawing/text_fit.h"
@@ -11,6 +13,12 @@
 namespace fundlet {
 
 namespace {
+
+#ifdef Q_OS_MACOS
+constexpr auto kControlModifier = Qt::MetaModifier;
+#else
+constexpr auto kControlModifier = Qt::ControlModifier;
+#endif
 
 // Breaks lines at blanks, after at most 80 characters where there is a blank: QToolTip does not
 // wrap plain text, and wraps rich text at a width of its own.
@@ -29,6 +37,12 @@ QString Wrapped(const QString& text) {
 }
 
 }  // namespace
+
+std::string KeyText(const QKeyEvent& event) {
+  const bool control_e = event.key() == Qt::Key_E && event.modifiers() == kControlModifier;
+  const bool help = event.key() == Qt::Key_Help || event.key() == Qt::Key_F1 || control_e;
+  return help ? App().HelpKey : FromQt(event.text());
+}
 
 Control::Control(ControlOwner& owner, QWidget* native) : owner_(owner), native_(native) {
   native_->setParent(&owner.Content());
@@ -87,12 +101,10 @@ void Control::SetName(std::string_view name) {
   native_->setObjectName(ToQt(name));
 }
 
-void Control::SetTabIndex(std::int64_t index) { tab_index_ = static_cast<int>(index); }
-
 std::string Control::Described() const { return "control “" + name_ + "”"; }
 
 const std::array<PropertyRow, 12> Control::kCommonRows = {{
-    {"TabIndex", 0, kThrough<&Control::SetTabIndex>},
+    {"TabIndex", 0, kInto<&Control::tab_index_>},
     {"TabPanelIndex", 0},
     {"LockBottom", false},
     {"LockRight", false},
@@ -105,19 +117,6 @@ const std::array<PropertyRow, 12> Control::kCommonRows = {{
     {"Index", -2147483648},  // not in an array of controls
     {"Name", "", kThrough<&Control::SetName>},
 }};
-
-PropertyTable ShapeControl::Properties() const {
-  static const auto rows = Joined(std::to_array<PropertyRow>({
-                                      {"Enabled", true, kThrough<&Control::SetEnabled>},
-                                      {"AutoDeactivate", true},
-                                      {"HelpTag", "", kThrough<&Control::SetHelpTag>},
-                                      {"Visible", true, kThrough<&Control::SetVisible>},
-                                      {"InitialParent", ""},
-                                      {"TabStop", true},
-                                  }),
-                                  kCommonRows);
-  return rows;
-}
 
 namespace {
 
@@ -135,31 +134,6 @@ QString AvailableFamily(const std::string& family) {
 
 }  // namespace
 
-void TextControl::SetTextFont(std::string_view family) {
-  family_ = family;
-  FitText();
-}
-
-void TextControl::SetTextSize(float pixels) {
-  pixels_ = pixels;
-  FitText();
-}
-
-void TextControl::SetBold(bool bold) {
-  bold_ = bold;
-  FitText();
-}
-
-void TextControl::SetItalic(bool italic) {
-  italic_ = italic;
-  FitText();
-}
-
-void TextControl::SetUnderline(bool underline) {
-  underline_ = underline;
-  FitText();
-}
-
 void TextControl::FitText() {
   if (ApplyingSet()) return;
   QFont font(AvailableFamily(family_));
@@ -172,11 +146,11 @@ void TextControl::FitText() {
 }
 
 const std::array<PropertyRow, 6> TextControl::kFontRows = {{
-    {"Underline", false, kThrough<&TextControl::SetUnderline>},
-    {"Italic", false, kThrough<&TextControl::SetItalic>},
-    {"Bold", false, kThrough<&TextControl::SetBold>},
+    {"Underline", false, kInto<&TextControl::underline_>},
+    {"Italic", false, kInto<&TextControl::italic_>},
+    {"Bold", false, kInto<&TextControl::bold_>},
     {"TextUnit", false},
-    {"TextSize", 12.0F, kThrough<&TextControl::SetTextSize>},
+    {"TextSize", 12.0F, kInto<&TextControl::pixels_>},
     {"TextFont", "System", kThrough<&TextControl::SetTextFont>},
 }};
 

@@ -33,6 +33,10 @@ class ControlOwner {
   ~ControlOwner() = default;
 };
 
+// The text that the key enters, mostly one character; empty for a key without text. The keys for
+// help, which are the Help key, F1 and control-E, give the application's HelpKey.
+std::string KeyText(const QKeyEvent& event);
+
 // What all controls have in common. Positions and sizes are in pixels, relative to the top left of
 // the window's content area.
 //
@@ -70,8 +74,14 @@ class Control : public PropertyTarget {
   bool UseFocusRing() const { return use_focus_ring_; }
   void SetUseFocusRing(bool use) { use_focus_ring_ = use; }
 
-  int TabIndex() const { return tab_index_; }
+  std::int64_t TabIndex() const { return tab_index_; }
+  ControlOwner& Owner() const { return owner_; }
   QWidget* Native() const { return native_; }
+  // The same as the Qt class that it is.
+  template <typename Widget>
+  Widget& NativeAs() const {
+    return static_cast<Widget&>(*native_);
+  }
 
   // Run the program's handlers for a focus that is gained or lost. Only the window calls these.
   virtual void FireGotFocus() {}
@@ -93,7 +103,6 @@ class Control : public PropertyTarget {
   Control(ControlOwner& owner, QWidget* native);
   std::string Described() const override;
 
-  ControlOwner& Owner() const { return owner_; }
   // Adapts the font to a new size, font or text.
   virtual void FitText() {}
 
@@ -101,35 +110,27 @@ class Control : public PropertyTarget {
   friend class Window;
 
   void SetName(std::string_view name);
-  void SetTabIndex(std::int64_t index);
 
   ControlOwner& owner_;
   QWidget* native_;  // owned by the window's own widget
   std::string name_;
-  int tab_index_ = 0;
+  std::int64_t tab_index_ = 0;
   bool use_focus_ring_ = true;
 };
 
-// A control without text.
-class ShapeControl : public Control {
- public:
-  PropertyTable Properties() const override;
-
- protected:
-  using Control::Control;
+// The numbers by which a property names the place of a text in its frame.
+struct AlignmentNumbers {
+  std::int64_t left;
+  std::int64_t centre;
+  std::int64_t right;
 };
+inline constexpr AlignmentNumbers kLabelAlignment{0, 1, 2};
+inline constexpr AlignmentNumbers kFieldAlignment{0, 2, 3};  // 1 means left, too
 
 // A control with text. A font family that is not installed is replaced by a similar one; "System"
 // is the font of the desktop environment. The size is in pixels. A text that is wider than the
 // control is condensed (NarrowedToFit).
 class TextControl : public Control {
- public:
-  void SetTextFont(std::string_view family);
-  void SetTextSize(float pixels);
-  void SetBold(bool bold);
-  void SetItalic(bool italic);
-  void SetUnderline(bool underline);
-
  protected:
   // Rows that several classes share.
   static const std::array<PropertyRow, 6> kFontRows;
@@ -144,6 +145,8 @@ class TextControl : public Control {
   virtual int WidthForText() const { return Width(); }
 
  private:
+  void SetTextFont(std::string_view family) { family_ = family; }
+
   std::string family_ = "System";
   float pixels_ = 12.0F;
   bool bold_ = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -18,8 +19,8 @@ class EntryWidget : public QLineEdit {
   EntryWidget();
 
   // The greatest length, in characters, that the user's input may give the text; 0 for no limit.
-  void SetLimit(int characters) { limit_ = characters; }
-  int Limit() const { return limit_; }
+  void SetLimit(std::int64_t characters) { limit_ = characters; }
+  std::int64_t Limit() const { return limit_; }
   void Write(const QString& text);  // the program's text, of any length
   void PasteFrom(QClipboard::Mode mode);
   // Enters the text that an input method is composing, and text() does not contain yet.
@@ -55,7 +56,7 @@ class EntryWidget : public QLineEdit {
   void Changed(const QString& text);
   void RefuseComposition();
 
-  int limit_ = 0;
+  std::int64_t limit_ = 0;
   QString composed_;  // the text that an input method is composing
   QString text_before_composition_;
   QString accepted_text_;         // the last text of the user or of the program

@@ -12,14 +12,12 @@ namespace fundlet {
 template <typename Widget>
 class FocusReporting : public Widget {
  public:
-  explicit FocusReporting(ControlOwner& owner) : owner_(owner) {}
-
   // Sets the control that the widget belongs to. To be called once, in the control's constructor.
   void AttachTo(Control& control) { control_ = &control; }
 
  protected:
-  ControlOwner& Owner() const { return owner_; }
   Control& Attached() const { return *control_; }
+  ControlOwner& Owner() const { return control_->Owner(); }
 
   void focusInEvent(QFocusEvent* event) override {
     QFocusEvent for_qt(ForQt(*event));
@@ -27,8 +25,8 @@ class FocusReporting : public Widget {
     // If the window becomes active while a handler runs, its activation is delivered afterwards and
     // decides the focus; the focus that Qt restores before that is ignored.
     const bool chosen_by_qt = event->reason() == Qt::ActiveWindowFocusReason && Gate().Busy() &&
-                              owner_.Focused() == nullptr;
-    if (!chosen_by_qt) owner_.OnFocusGained(*control_);
+                              Owner().Focused() == nullptr;
+    if (!chosen_by_qt) Owner().OnFocusGained(*control_);
   }
 
   void focusOutEvent(QFocusEvent* event) override {
@@ -36,7 +34,7 @@ class FocusReporting : public Widget {
     Widget::focusOutEvent(&for_qt);
     const bool with_window = event->reason() == Qt::ActiveWindowFocusReason;
     const bool keeps_focus = with_window && !control_->LosesFocusWithWindow();
-    if (!IsForMenu(*event) && !keeps_focus) owner_.OnFocusLost(*control_);
+    if (!IsForMenu(*event) && !keeps_focus) Owner().OnFocusLost(*control_);
   }
 
  private:
@@ -49,7 +47,6 @@ class FocusReporting : public Widget {
     return QFocusEvent(event.type(), IsForMenu(event) ? Qt::PopupFocusReason : event.reason());
   }
 
-  ControlOwner& owner_;
   Control* control_ = nullptr;
 };
 

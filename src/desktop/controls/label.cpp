@@ -10,32 +10,19 @@
 
 namespace fundlet {
 
-namespace {
-
-QLabel& LabelOf(const Control& control) { return static_cast<QLabel&>(*control.Native()); }
-
-}  // namespace
-
 Label::Label(ControlOwner& owner) : TextControl(owner, new QLabel) {
-  LabelOf(*this).setTextFormat(Qt::PlainText);
-  LabelOf(*this).setFocusPolicy(Qt::NoFocus);
+  NativeAs<QLabel>().setTextFormat(Qt::PlainText);
 }
 
-std::string Label::Text() const { return FromQt(LabelOf(*this).text()); }
+std::string Label::Text() const { return FromQt(NativeAs<QLabel>().text()); }
 
 void Label::SetText(std::string_view text) {
-  LabelOf(*this).setText(ToQt(text));
+  NativeAs<QLabel>().setText(ToQt(text));
   FitText();
-  if (announced_) ScreenReaderNotifier::Announce(LabelOf(*this), ToQt(text));
+  if (announced_) ScreenReaderNotifier::Announce(*Native(), ToQt(text));
 }
 
-void Label::SetTextAlign(std::int64_t align) {
-  LabelOf(*this).setAlignment(AlignmentOf(align, kLabelAlignment));
-}
-
-void Label::SetTextColor(Colour colour) { SetColour(LabelOf(*this), QPalette::WindowText, colour); }
-
-void Label::SetLabelFor(const Control& control) { LabelOf(*this).setBuddy(control.Native()); }
+void Label::SetLabelFor(const Control& control) { NativeAs<QLabel>().setBuddy(control.Native()); }
 
 PropertyTable Label::Properties() const {
   static const auto rows =
@@ -48,8 +35,8 @@ PropertyTable Label::Properties() const {
                  {"Visible", true, kThrough<&Control::SetVisible>},
                  {"Enabled", true, kThrough<&Control::SetEnabled>},
                  {"Multiline", false},
-                 {"TextColor", kBlack, kThrough<&Label::SetTextColor>},
-                 {"TextAlign", kLabelAlignment.left, kThrough<&Label::SetTextAlign>},
+                 {"TextColor", kBlack, &SetColour<QPalette::WindowText>},
+                 {"TextAlign", kLabelAlignment.left, &SetAlignment<QLabel, kLabelAlignment>},
                  {"Text", "", kThrough<&Label::SetText>},
              }),
              kCommonRows, std::to_array<PropertyRow>({{"TabStop", true}}));

@@ -11,8 +11,6 @@ class Label : public TextControl {
 
   std::string Text() const;
   void SetText(std::string_view text);
-  void SetTextAlign(std::int64_t align);  // one of kLabelAlignment
-  void SetTextColor(Colour colour);
   // Makes the label's text the control's name for a screen reader.
   void SetLabelFor(const Control& control);
   // From now on, a screen reader speaks each text that is set, wherever the focus is.

@@ -7,33 +7,24 @@
 
 #include "desktop/base/qt_text.h"
 #include "desktop/controls/focus_reporting.h"
+#include "desktop/controls/qt_properties.h"
 
 namespace fundlet {
 
 namespace {
 
 class ButtonWidget : public FocusReporting<QPushButton> {
- public:
-  using FocusReporting::FocusReporting;
-
- protected:
   // On some platforms Return presses the button that has the focus. Here it presses the default
   // button on each.
   void keyPressEvent(QKeyEvent* event) override {
-    if (!Owner().PressButtonFor(*event)) {
-      FocusReporting::keyPressEvent(event);
-    }
+    if (!Owner().PressButtonFor(*event)) FocusReporting::keyPressEvent(event);
   }
 };
 
-ButtonWidget& ButtonOf(const Control& control) {
-  return static_cast<ButtonWidget&>(*control.Native());
-}
-
 }  // namespace
 
-PushButton::PushButton(ControlOwner& owner) : TextControl(owner, new ButtonWidget(owner)) {
-  ButtonWidget& button = ButtonOf(*this);
+PushButton::PushButton(ControlOwner& owner) : TextControl(owner, new ButtonWidget) {
+  auto& button = NativeAs<ButtonWidget>();
   button.AttachTo(*this);
   button.setFocusPolicy(Qt::TabFocus);
   button.setAutoDefault(false);
@@ -45,20 +36,17 @@ PushButton::PushButton(ControlOwner& owner) : TextControl(owner, new ButtonWidge
 }
 
 std::string PushButton::Caption() const {
-  return FromQt(ButtonOf(*this).text().replace("&&", "&"));
+  return FromQt(NativeAs<QPushButton>().text().replace("&&", "&"));
 }
 
 void PushButton::SetCaption(std::string_view caption) {
-  ButtonOf(*this).setText(ToQt(caption).replace('&', "&&"));
+  NativeAs<QPushButton>().setText(ToQt(caption).replace('&', "&&"));
   FitText();
 }
 
-void PushButton::SetDefault(bool is_default) {
-  ButtonOf(*this).setDefault(is_default);
-  default_ = is_default;
-}
+bool PushButton::IsDefault() const { return NativeAs<QPushButton>().isDefault(); }
 
-void PushButton::Press() { ButtonOf(*this).click(); }
+void PushButton::Press() { NativeAs<QPushButton>().click(); }
 
 int PushButton::WidthForText() const {
   constexpr int kFrames = 10;
@@ -74,7 +62,7 @@ PropertyTable PushButton::Properties() const {
                                       {"Visible", true, kThrough<&Control::SetVisible>},
                                       {"Enabled", true, kThrough<&Control::SetEnabled>},
                                       {"Cancel", false, kThrough<&PushButton::SetCancel>},
-                                      {"Default", false, kThrough<&PushButton::SetDefault>},
+                                      {"Default", false, kThroughWidget<&QPushButton::setDefault>},
                                       {"Caption", "", kThrough<&PushButton::SetCaption>},
                                       {"TabStop", true},
                                   }),

@@ -14,12 +14,9 @@ class PushButton : public TextControl {
 
   std::string Caption() const;
   void SetCaption(std::string_view caption);
-  // Whether Return presses the button.
-  void SetDefault(bool is_default);
-  bool IsDefault() const { return default_; }
-  // Whether Escape presses the button.
+  bool IsDefault() const;                    // whether Return presses the button
+  bool IsCancel() const { return cancel_; }  // whether Escape presses the button
   void SetCancel(bool is_cancel) { cancel_ = is_cancel; }
-  bool IsCancel() const { return cancel_; }
 
   // Presses the button as a click does; does nothing if it is disabled.
   void Press();
@@ -33,7 +30,6 @@ class PushButton : public TextControl {
   int WidthForText() const override;
 
  private:
-  bool default_ = false;
   bool cancel_ = false;
 };
 

@@ -3,23 +3,36 @@
 #include <QPalette>
 #include <QWidget>
 
-#include "desktop/base/property_set.h"
-#include "desktop/controls/alignment.h"
+#include "desktop/controls/control.h"
 
-// Values of properties in Qt's terms.
+// Setters of rows for properties that a control's Qt widget has.
 namespace fundlet {
 
-// The number as Qt's alignment, vertically centred; left for a number that is not among `numbers`.
-inline Qt::Alignment AlignmentOf(std::int64_t number, const AlignmentNumbers& numbers) {
-  if (number == numbers.centre) return Qt::AlignHCenter | Qt::AlignVCenter;
-  return (number == numbers.right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+// Calls this function of the widget.
+template <auto Method>
+inline constexpr auto kThroughWidget = [](PropertyTarget& control, const PropertyValue& value) {
+  [&]<typename Widget, typename Value>(void (Widget::*method)(Value)) {
+    (static_cast<Control&>(control).NativeAs<Widget>().*method)(std::get<Value>(value));
+  }(Method);
+};
+
+// Gives the widget a colour of its own for one role of its palette.
+template <QPalette::ColorRole kRole>
+void SetColour(PropertyTarget& control, const PropertyValue& value) {
+  QWidget& widget = *static_cast<Control&>(control).Native();
+  const auto [red, green, blue] = std::get<Colour>(value);
+  QPalette palette = widget.palette();
+  palette.setColor(kRole, QColor(red, green, blue));
+  widget.setPalette(palette);
 }
 
-// Gives a widget a colour of its own for one role of its palette.
-inline void SetColour(QWidget& widget, QPalette::ColorRole role, Colour colour) {
-  QPalette palette = widget.palette();
-  palette.setColor(role, QColor(colour.red, colour.green, colour.blue));
-  widget.setPalette(palette);
+// Places the widget's text, vertically centred; on the left for a number not among kNumbers.
+template <typename Widget, AlignmentNumbers kNumbers>
+void SetAlignment(PropertyTarget& control, const PropertyValue& value) {
+  const auto number = std::get<std::int64_t>(value);
+  Qt::Alignment side = number == kNumbers.right ? Qt::AlignRight : Qt::AlignLeft;
+  if (number == kNumbers.centre) side = Qt::AlignHCenter;
+  static_cast<Control&>(control).NativeAs<Widget>().setAlignment(side | Qt::AlignVCenter);
 }
 
 }  // namespace fundlet

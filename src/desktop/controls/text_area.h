@@ -19,12 +19,6 @@ class TextArea : public TextControl {
   void SetSelLength(std::int64_t length);
   std::int64_t SelStart() const;
   std::int64_t SelLength() const;
-  void SetReadOnly(bool read_only);
-  void SetScrollbarVertical(bool shown);
-  void SetScrollbarHorizontal(bool shown);  // without it, long lines wrap
-  void SetBorder(bool border);
-  void SetBackColor(Colour colour);
-  void SetTextColor(Colour colour);
 
   std::function<void(TextArea&)> GotFocus;
 
@@ -34,6 +28,9 @@ class TextArea : public TextControl {
   void Edit(EditCommand command) override;
 
   PropertyTable Properties() const override;
+
+ private:
+  void Select(std::int64_t start, std::int64_t length);
 };
 
 }  // namespace fundlet

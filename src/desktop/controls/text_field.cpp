@@ -12,7 +12,6 @@
 #include "desktop/base/run_state.h"
 #include "desktop/controls/entry_widget.h"
 #include "desktop/controls/focus_reporting.h"
-#include "desktop/controls/keys.h"
 #include "desktop/controls/qt_properties.h"
 #include "services/text.h"
 
@@ -22,7 +21,8 @@ namespace {
 
 class FieldWidget : public FocusReporting<EntryWidget> {
  public:
-  using FocusReporting::FocusReporting;
+  void SetCueText(std::string_view text) { setPlaceholderText(ToQt(text)); }
+  void SetPassword(bool password) { setEchoMode(password ? Password : Normal); }
 
   // The width in which a text and the caret after it are visible as a whole.
   int WidthForText() const {
@@ -54,13 +54,10 @@ class FieldWidget : public FocusReporting<EntryWidget> {
     Owner().ShowEditMenu(event->globalPos());
   }
   void keyPressEvent(QKeyEvent* event) override {
-    if (ProgramUses(*event) || Owner().PressButtonFor(*event)) {
-      event->accept();
-    } else {
-      FocusReporting::keyPressEvent(event);
-      // The program has been offered the key already, so it does not go on to the window.
-      event->accept();
-    }
+    const bool used = ProgramUses(*event) || Owner().PressButtonFor(*event);
+    if (!used) FocusReporting::keyPressEvent(event);
+    // The program has been offered the key already, so it does not go on to the window.
+    event->accept();
   }
 
  private:
@@ -74,37 +71,35 @@ class FieldWidget : public FocusReporting<EntryWidget> {
   }
 };
 
-FieldWidget& FieldOf(const Control& control) {
-  return static_cast<FieldWidget&>(*control.Native());
-}
-
 }  // namespace
 
-TextField::TextField(ControlOwner& owner) : TextControl(owner, new FieldWidget(owner)) {
-  FieldOf(*this).AttachTo(*this);
-  FieldOf(*this).setFocusPolicy(Qt::StrongFocus);
-  FieldOf(*this).FilterInsertion = [this](const QString& outcome) -> std::optional<QString> {
+TextField::TextField(ControlOwner& owner) : TextControl(owner, new FieldWidget) {
+  auto& field = NativeAs<FieldWidget>();
+  field.AttachTo(*this);
+  field.FilterInsertion = [this, &field](const QString& outcome) -> std::optional<QString> {
     if (!Pasting) return outcome;
     std::optional<std::string> entry;
-    Gate().EnterWithin([&] { entry = Pasting(FromQt(outcome), FieldOf(*this).Limit()); });
+    Gate().EnterWithin([&] { entry = Pasting(FromQt(outcome), field.Limit()); });
     return entry ? std::optional(ToQt(*entry)) : std::nullopt;
   };
 }
 
-std::string TextField::Text() const { return FromQt(FieldOf(*this).text()); }
+std::string TextField::Text() const { return FromQt(NativeAs<QLineEdit>().text()); }
 
 void TextField::SetText(std::string_view text) {
-  const int limit = FieldOf(*this).Limit();
-  FieldOf(*this).Write(ToQt(text));
+  NativeAs<EntryWidget>().Write(ToQt(text));
   waiting_selection_.reset();
-  const bool beyond_limit = limit > 0 && Len(text) > static_cast<std::size_t>(limit);
-  const bool widest = !beyond_limit && text.size() > longest_text_.size();
-  if (widest) longest_text_ = text;
-  if (std::exchange(beyond_limit_, beyond_limit) || beyond_limit || widest) FitText();
+  if (!IsBeyondLimit() && text.size() > longest_text_.size()) longest_text_ = text;
+  FitText();
+}
+
+bool TextField::IsBeyondLimit() const {
+  const std::size_t limit = NativeAs<EntryWidget>().Limit();
+  return limit > 0 && Len(Text()) > limit;
 }
 
 // A text beyond the limit is condensed too, so that the whole number is visible.
-std::string TextField::WidestText() const { return beyond_limit_ ? Text() : longest_text_; }
+std::string TextField::WidestText() const { return IsBeyondLimit() ? Text() : longest_text_; }
 
 bool TextField::HasFocus() const { return Owner().Focused() == this; }
 
@@ -112,7 +107,7 @@ void TextField::SetSelStart(std::int64_t start) { Select({start, 0}); }
 void TextField::SetSelLength(std::int64_t length) { Select({SelStart(), length}); }
 
 void TextField::Select(Selection selection) {
-  QLineEdit& field = FieldOf(*this);
+  auto& field = NativeAs<QLineEdit>();
   const int begin = UnitsOf(field.text(), selection.start);
   const int end = UnitsOf(field.text(), selection.start + selection.length);
   if (!HasFocus()) {
@@ -127,71 +122,45 @@ void TextField::Select(Selection selection) {
 
 std::int64_t TextField::SelStart() const {
   if (waiting_selection_) return waiting_selection_->start;
-  const QLineEdit& field = FieldOf(*this);
+  const auto& field = NativeAs<QLineEdit>();
   const int start = field.hasSelectedText() ? field.selectionStart() : field.cursorPosition();
   return CharactersOf(field.text(), start);
 }
 
 std::int64_t TextField::SelLength() const {
   if (waiting_selection_) return waiting_selection_->length;
-  const QString selected = FieldOf(*this).selectedText();
+  const QString selected = NativeAs<QLineEdit>().selectedText();
   return CharactersOf(selected, static_cast<int>(selected.size()));
 }
 
-void TextField::SetLimitText(std::int64_t limit) {
-  FieldOf(*this).SetLimit(static_cast<int>(limit));
-}
-
-void TextField::SetAlignment(std::int64_t alignment) {
-  FieldOf(*this).setAlignment(AlignmentOf(alignment, kFieldAlignment));
-}
-
-void TextField::SetReadOnly(bool read_only) { FieldOf(*this).setReadOnly(read_only); }
-void TextField::SetPassword(bool password) {
-  FieldOf(*this).setEchoMode(password ? QLineEdit::Password : QLineEdit::Normal);
-}
-void TextField::SetBorder(bool border) { FieldOf(*this).setFrame(border); }
-
-void TextField::SetBackColor(Colour colour) { SetColour(FieldOf(*this), QPalette::Base, colour); }
-void TextField::SetTextColor(Colour colour) { SetColour(FieldOf(*this), QPalette::Text, colour); }
-void TextField::SetCueText(std::string_view text) { FieldOf(*this).setPlaceholderText(ToQt(text)); }
-
-int TextField::WidthForText() const { return FieldOf(*this).WidthForText(); }
+int TextField::WidthForText() const { return NativeAs<FieldWidget>().WidthForText(); }
 
 void TextField::FireGotFocus() {
   if (const auto selection = std::exchange(waiting_selection_, std::nullopt)) Select(*selection);
   if (GotFocus) GotFocus(*this);
 }
 
-void TextField::CommitComposition() { FieldOf(*this).CommitComposition(); }
+void TextField::CommitComposition() { NativeAs<EntryWidget>().CommitComposition(); }
 
 void TextField::FireLostFocus() {
   CommitComposition();
   if (LostFocus) LostFocus(*this);
-  FieldOf(*this).setCursorPosition(0);
+  NativeAs<QLineEdit>().setCursorPosition(0);
 }
 
 bool TextField::CanEdit(EditCommand command) const {
-  const QLineEdit& field = FieldOf(*this);
+  const auto& field = NativeAs<QLineEdit>();
   if (!HasFocus() || (field.isReadOnly() && command != EditCommand::Copy)) return false;
-  switch (command) {
-    case EditCommand::Undo:
-      return field.isUndoAvailable();
-    case EditCommand::Cut:
-    case EditCommand::Copy:
-      return field.hasSelectedText() && field.echoMode() == QLineEdit::Normal;
-    case EditCommand::Paste:
-      return true;  // the clipboard is not asked, because its owner may not answer
-    case EditCommand::Clear:
-      return field.hasSelectedText();
-    case EditCommand::None:
-      break;
-  }
-  return false;
+  // The clipboard is not asked, because its owner may not answer.
+  if (command == EditCommand::Paste) return true;
+  if (command == EditCommand::Undo) return field.isUndoAvailable();
+  if (command == EditCommand::Clear) return field.hasSelectedText();
+  return command != EditCommand::None && field.hasSelectedText() &&
+         field.echoMode() == QLineEdit::Normal;
 }
 
 void TextField::Edit(EditCommand command) {
-  FieldWidget& field = FieldOf(*this);
+  auto& field = NativeAs<EntryWidget>();
   if (command == EditCommand::Undo) field.undo();
   if (command == EditCommand::Cut) field.cut();
   if (command == EditCommand::Copy) field.copy();
@@ -204,13 +173,13 @@ PropertyTable TextField::Properties() const {
       Joined(kDataBindingRows,
              std::to_array<PropertyRow>({
                  {"AutomaticallyCheckSpelling", false},
-                 {"Alignment", kFieldAlignment.left, kThrough<&TextField::SetAlignment>},
+                 {"Alignment", kFieldAlignment.left, &SetAlignment<QLineEdit, kFieldAlignment>},
                  {"AcceptTabs", false},
-                 {"LimitText", 0, kThrough<&TextField::SetLimitText>},
-                 {"ReadOnly", false, kThrough<&TextField::SetReadOnly>},
+                 {"LimitText", 0, kThroughWidget<&EntryWidget::SetLimit>},
+                 {"ReadOnly", false, kThroughWidget<&QLineEdit::setReadOnly>},
                  {"Mask", ""},
                  {"Text", "", kThrough<&TextField::SetText>},
-                 {"CueText", "", kThrough<&TextField::SetCueText>},
+                 {"CueText", "", kThroughWidget<&FieldWidget::SetCueText>},
              }),
              kFontRows,
              std::to_array<PropertyRow>({
@@ -219,11 +188,11 @@ PropertyTable TextField::Properties() const {
                  {"Visible", true, kThrough<&Control::SetVisible>},
                  {"Format", ""},
                  {"Enabled", true, kThrough<&Control::SetEnabled>},
-                 {"BackColor", kWhite, kThrough<&TextField::SetBackColor>},
-                 {"TextColor", kBlack, kThrough<&TextField::SetTextColor>},
+                 {"BackColor", kWhite, &SetColour<QPalette::Base>},
+                 {"TextColor", kBlack, &SetColour<QPalette::Text>},
                  {"UseFocusRing", true, kThrough<&Control::SetUseFocusRing>},
-                 {"Password", false, kThrough<&TextField::SetPassword>},
-                 {"Border", true, kThrough<&TextField::SetBorder>},
+                 {"Password", false, kThroughWidget<&FieldWidget::SetPassword>},
+                 {"Border", true, kThroughWidget<&QLineEdit::setFrame>},
                  {"TabStop", true},
              }),
              kCommonRows);

@@ -20,15 +20,6 @@ class TextField : public TextControl {
   void SetSelLength(std::int64_t length);  // selects from SelStart
   std::int64_t SelStart() const;
   std::int64_t SelLength() const;
-  // The greatest length, in characters, that the user's input may give the text; 0 for no limit.
-  void SetLimitText(std::int64_t limit);
-  void SetAlignment(std::int64_t alignment);  // one of kFieldAlignment
-  void SetReadOnly(bool read_only);
-  void SetPassword(bool password);
-  void SetBorder(bool border);
-  void SetBackColor(Colour colour);
-  void SetTextColor(Colour colour);
-  void SetCueText(std::string_view text);
 
   // The field has gained or lost the focus.
   std::function<void(TextField&)> GotFocus;
@@ -63,9 +54,10 @@ class TextField : public TextControl {
   bool HasFocus() const;
   void Select(Selection selection);
 
+  bool IsBeyondLimit() const;
+
   std::optional<Selection> waiting_selection_;
-  bool beyond_limit_ = false;  // the program's last text is longer than the limit
-  std::string longest_text_;   // the longest text of the program that is within the limit
+  std::string longest_text_;  // the longest text of the program that is within the limit
 };
 
 }  // namespace fundlet

@@ -10,7 +10,6 @@
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
 #include "desktop/base/screen.h"
-#include "desktop/controls/keys.h"
 #include "desktop/controls/push_button.h"
 #include "desktop/windows/blocking_dialog.h"
 #include "desktop/windows/native_window.h"
@@ -27,41 +26,42 @@ struct WindowOrder : std::vector<Window*> {};
 WindowOrder& VisibleWindows() { return RunState::Of<WindowOrder>(); }
 
 // The setter of a row that calls this function of the native window.
-template <typename Value, void (NativeWindow::*kFunction)(Value)>
-void SetNative(PropertyTarget& window, const PropertyValue& value) {
-  (static_cast<Window&>(window).Native().*kFunction)(std::get<Value>(value));
-}
+template <auto Method>
+constexpr auto kThroughNative = [](PropertyTarget& window, const PropertyValue& value) {
+  [&]<typename Value>(void (NativeWindow::*method)(Value)) {
+    (static_cast<Window&>(window).Native().*method)(std::get<Value>(value));
+  }(Method);
+};
 
 }  // namespace
 
 PropertyTable Window::Properties() const {
-  using Number = std::int64_t;
   static constexpr auto kRows = std::to_array<PropertyRow>({
       {"Width", 0, kThrough<&Window::SetWidth>},
       {"Height", 0, kThrough<&Window::SetHeight>},
-      {"MinWidth", 64, &SetNative<Number, &NativeWindow::SetMinWidth>},
-      {"MinHeight", 64, &SetNative<Number, &NativeWindow::SetMinHeight>},
-      {"MaxWidth", 32000, &SetNative<Number, &NativeWindow::SetMaxWidth>},
-      {"MaxHeight", 32000, &SetNative<Number, &NativeWindow::SetMaxHeight>},
+      {"MinWidth", 64, kThroughNative<&NativeWindow::SetMinWidth>},
+      {"MinHeight", 64, kThroughNative<&NativeWindow::SetMinHeight>},
+      {"MaxWidth", 32000, kThroughNative<&NativeWindow::SetMaxWidth>},
+      {"MaxHeight", 32000, kThroughNative<&NativeWindow::SetMaxHeight>},
       {"Frame", 0},
       {"Title", "", kThrough<&Window::SetTitle>},
-      {"CloseButton", true, &SetNative<bool, &NativeWindow::SetButton<Qt::WindowCloseButtonHint>>},
-      {"Resizeable", false, &SetNative<bool, &NativeWindow::SetResizeable>},
+      {"CloseButton", true, kThroughNative<&NativeWindow::SetButton<Qt::WindowCloseButtonHint>>},
+      {"Resizeable", false, kThroughNative<&NativeWindow::SetResizeable>},
       {"MaximizeButton", false,
-       &SetNative<bool, &NativeWindow::SetButton<Qt::WindowMaximizeButtonHint>>},
+       kThroughNative<&NativeWindow::SetButton<Qt::WindowMaximizeButtonHint>>},
       {"MinimizeButton", true,
-       &SetNative<bool, &NativeWindow::SetButton<Qt::WindowMinimizeButtonHint>>},
+       kThroughNative<&NativeWindow::SetButton<Qt::WindowMinimizeButtonHint>>},
       {"FullScreenButton", false,
-       &SetNative<bool, &NativeWindow::SetButton<Qt::WindowFullscreenButtonHint>>},
+       kThroughNative<&NativeWindow::SetButton<Qt::WindowFullscreenButtonHint>>},
       {"Composite", false},
       {"MacProcID", 0},
       {"Placement", 0, kThrough<&Window::SetPlacement>},
       {"Visible", true},  // a window shows when Show is called
       {"LiveResize", true},
       {"FullScreen", false},
-      {"HasBackColor", true, &SetNative<bool, &NativeWindow::SetHasBackColor>},
-      {"BackColor", kWhite, &SetNative<Colour, &NativeWindow::SetBackColor>},
-      {"MenuBarVisible", true, &SetNative<bool, &NativeWindow::SetMenuBarVisible>},
+      {"HasBackColor", true, kThroughNative<&NativeWindow::SetHasBackColor>},
+      {"BackColor", kWhite, kThroughNative<&NativeWindow::SetBackColor>},
+      {"MenuBarVisible", true, kThroughNative<&NativeWindow::SetMenuBarVisible>},
   });
   return kRows;
 }
