@@ -35,11 +35,11 @@ aFundletWindow::aFundletWindow() {
 
 void aFundletWindow::PlaceOnScreen() {
   const Screen screen(0);
-  SetLeft((screen.AvailableWidth() - Width()) / 2);
-  if (screen.AvailableHeight() <= Height()) {
-    SetTop(screen.AvailableTop() + kTitleBarHeight);
+  SetLeft((screen.AvailableWidth - Width()) / 2);
+  if (screen.AvailableHeight <= Height()) {
+    SetTop(screen.AvailableTop + kTitleBarHeight);
   } else {
-    SetTop(screen.AvailableTop() + (screen.AvailableHeight() - Height() - kTitleBarHeight) / 2);
+    SetTop(screen.AvailableTop + (screen.AvailableHeight - Height() - kTitleBarHeight) / 2);
   }
 }
 

@@ -1,17 +1,11 @@
 #include "desktop/base/application.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 
 #include "desktop/base/run_state.h"
 #include "services/exceptions.h"
 
 namespace fundlet {
-
-void Application::_SetSupportsHiDPI(bool supported) {
-  if (!supported) return;
-  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-      Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-}
 
 Application& App() {
   if (Application* application = RunState::Current().application) return *application;

@@ -21,8 +21,8 @@ class Application {
   // Shows the user a failure that escaped a handler.
   std::function<void(const std::string& message)> Report;
 
-  // Declares support for high-DPI displays; to be called before Runtime makes the QApplication.
-  static void _SetSupportsHiDPI(bool supported);
+  // Declares support for high-DPI displays, which Qt 6 has without being told.
+  static void _SetSupportsHiDPI(bool /*supported*/) {}
 };
 
 // The registered application object; NilObjectException if there is none.

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace fundlet {
@@ -26,7 +28,7 @@ class MenuItem {
   std::string KeyboardShortcut;  // such as "Cmd+S"; empty for none
   EditCommand Edits = EditCommand::None;
 
-  void Append(std::unique_ptr<MenuItem> item);
+  void Append(std::unique_ptr<MenuItem> item) { children_.push_back(std::move(item)); }
   // The direct child of that name; NilObjectException if there is none.
   MenuItem& Child(std::string_view name) const;
   // The item of that name at any depth; NilObjectException if there is none.
@@ -39,14 +41,12 @@ class MenuItem {
 
   bool IsSeparator() const { return Text == "-"; }
   bool IsShown() const { return Visible && !Text.empty(); }
-  bool OpensMenu() const;
+  bool OpensMenu() const { return std::ranges::any_of(children_, &MenuItem::IsShown); }
   const std::vector<std::unique_ptr<MenuItem>>& Children() const { return children_; }
   // Calls the function for this item's descendants, depth first, in their order.
   void ForEach(const std::function<void(MenuItem&)>& visit) const;
 
  private:
-  MenuItem* Find(std::string_view name) const;
-
   std::vector<std::unique_ptr<MenuItem>> children_;
   bool enabled_ = false;
 };

@@ -94,18 +94,13 @@ class PropertyTarget {
   bool applying_set_ = false;
 };
 
-template <auto Method>
-struct PropertyMethod;
-template <typename Class, typename Value, void (Class::*Method)(Value)>
-struct PropertyMethod<Method> {
-  static void Set(PropertyTarget& target, const PropertyValue& value) {
-    (static_cast<Class&>(target).*Method)(std::get<Value>(value));
-  }
-};
-
 // The setter of a row that calls this member function of the class.
 template <auto Method>
-inline constexpr auto kThrough = &PropertyMethod<Method>::Set;
+inline constexpr auto kThrough = [](PropertyTarget& target, const PropertyValue& value) {
+  [&]<typename Class, typename Value>(void (Class::*method)(Value)) {
+    (static_cast<Class&>(target).*method)(std::get<Value>(value));
+  }(Method);
+};
 
 // The setter of a row that stores the value in this data member.
 template <auto Member>

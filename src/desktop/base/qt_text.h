@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -9,9 +8,7 @@
 
 namespace fundlet {
 
-inline QString ToQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+inline QString ToQt(std::string_view text) { return QString::fromUtf8(text); }
 inline std::string FromQt(const QString& text) { return text.toStdString(); }
 
 // Qt counts UTF-16 units, the program characters; a character above U+FFFF has two units.
@@ -23,9 +20,7 @@ inline int UnitsOf(const QString& text, std::int64_t characters) {
   return units;
 }
 inline std::int64_t CharactersOf(const QString& text, int units) {
-  const QStringView part = QStringView(text).left(units);
-  return static_cast<std::int64_t>(part.size()) -
-         std::count_if(part.begin(), part.end(), [](QChar c) { return c.isLowSurrogate(); });
+  return text.left(units).toUcs4().size();
 }
 
 }  // namespace fundlet

@@ -5,23 +5,11 @@
 
 namespace fundlet {
 
-namespace {
-
-QScreen* ScreenOf(int number) {
-  if (number == 0) return QGuiApplication::primaryScreen();
-  return QGuiApplication::screens().value(number, nullptr);
-}
-
-}  // namespace
-
 Screen::Screen(int number) {
-  const QScreen* screen = ScreenOf(number);
+  const QScreen* screen = QGuiApplication::screens().value(number);  // the primary one is the first
   if (screen == nullptr) return;
-  const QRect available = screen->availableGeometry();
-  left_ = available.left();
-  top_ = available.top();
-  width_ = available.width();
-  height_ = available.height();
+  screen->availableGeometry().getRect(&AvailableLeft, &AvailableTop, &AvailableWidth,
+                                      &AvailableHeight);
 }
 
 }  // namespace fundlet

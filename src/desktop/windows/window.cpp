@@ -164,13 +164,13 @@ void Window::Centre() {
   constexpr int kTitleBar = 30;  // pixels; the desktop environments have lower ones
   const Screen screen(0);
   const int menus = native_->height() - Height();
-  const int most = std::max(screen.AvailableHeight() - kTitleBar - menus, native_->MinHeight());
+  const int most = std::max(screen.AvailableHeight - kTitleBar - menus, native_->MinHeight());
   if (Height() > most) {
     SetHeight(most);
     Resized();
   }
-  SetLeft(screen.AvailableLeft() + (screen.AvailableWidth() - Width()) / 2);
-  SetTop(screen.AvailableTop() + std::max(kTitleBar, (screen.AvailableHeight() - Height()) / 2));
+  SetLeft(screen.AvailableLeft + (screen.AvailableWidth - Width()) / 2);
+  SetTop(screen.AvailableTop + std::max(kTitleBar, (screen.AvailableHeight - Height()) / 2));
 }
 
 // Tab goes through the controls by rising TabIndex; controls with equal ones keep the order in
