@@ -1,10 +1,12 @@
 #include "desktop/run/held_input.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QWindow>
 
 #include "desktop/base/application.h"
 #include "desktop/base/run_state.h"
@@ -24,71 +26,59 @@ constexpr int kYieldsPerTick = 500'000;
 // How long a click waits for the activation of its window, which the desktop may refuse.
 constexpr int kActivationTimeoutMs = 200;
 
-bool IsUserInput(const QEvent& event) {
-  switch (event.type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::Wheel:
-    case QEvent::InputMethod:
-    case QEvent::ContextMenu:
-    case QEvent::Close:
-      return true;
-    default:
-      return false;
-  }
-}
+constexpr QEvent::Type kUserInput[] = {
+    QEvent::KeyPress,
+    QEvent::KeyRelease,
+    QEvent::ShortcutOverride,
+    QEvent::MouseButtonPress,
+    QEvent::MouseButtonRelease,
+    QEvent::MouseButtonDblClick,
+    QEvent::MouseMove,
+    QEvent::Wheel,
+    QEvent::InputMethod,
+    QEvent::ContextMenu,
+    QEvent::Close,
+};
 
 bool IsTouch(const QEvent& event) {
   return event.type() == QEvent::TouchBegin || event.type() == QEvent::TouchUpdate ||
          event.type() == QEvent::TouchEnd;
 }
 
-bool IsKey(const QEvent& event) {
-  return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
-         event.type() == QEvent::ShortcutOverride;
-}
+// The event as a press, a release or a ShortcutOverride of a key; null if it is none.
+const QKeyEvent* KeyOf(const QEvent& event) { return dynamic_cast<const QKeyEvent*>(&event); }
 
 bool IsHeldShortcut(const QEvent& event) {
-  if (!IsKey(event)) return false;
-  const auto& key = static_cast<const QKeyEvent&>(event);
-  return key.isAutoRepeat() && key.modifiers().testFlag(Qt::ControlModifier);
+  const QKeyEvent* key = KeyOf(event);
+  return key != nullptr && key->isAutoRepeat() && key->modifiers().testFlag(Qt::ControlModifier);
 }
 
 bool IsCancelGesture(const QEvent& event) {
-  if (!IsKey(event)) return false;
-  const auto& key = static_cast<const QKeyEvent&>(event);
-  const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
-  return (key.key() == Qt::Key_Escape && modifiers == Qt::NoModifier) ||
+  const QKeyEvent* key = KeyOf(event);
+  if (key == nullptr) return false;
+  const auto modifiers = key->modifiers() & ~Qt::KeypadModifier;
+  return (key->key() == Qt::Key_Escape && modifiers == Qt::NoModifier) ||
          // On French and other layouts the full stop needs Shift.
-         (key.key() == Qt::Key_Period && (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier);
+         (key->key() == Qt::Key_Period && (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier);
 }
 
 }  // namespace
 
 HeldInput::HeldInput() {
   QCoreApplication::instance()->installEventFilter(this);
-  activation_timer_.setSingleShot(true);
-  activation_timer_.setInterval(kActivationTimeoutMs);
-  connect(&activation_timer_, &QTimer::timeout, this, &HeldInput::StopAwaiting);
-  SetBackgroundTask(&HeldInput::BackgroundTick);
+  activation_timer_.callOnTimeout(this, &HeldInput::StopAwaiting);
+  SetBackgroundTask([] {
+    const QScopedValueRollback pumping(RunState::Of<HeldInput>().pumping_, true);
+    QCoreApplication::processEvents();
+    return kYieldsPerTick;
+  });
 }
 
 HeldInput::~HeldInput() { SetBackgroundTask(nullptr); }
 
-int HeldInput::BackgroundTick() {
-  const QScopedValueRollback pumping(RunState::Of<HeldInput>().pumping_, true);
-  QCoreApplication::processEvents();
-  return kYieldsPerTick;
-}
-
 bool HeldInput::MustHold() const {
   const bool behind_held = !held_.empty() && !replaying_ && !Gate().Busy();
-  return pumping_ || awaited_ != nullptr || behind_held;
+  return pumping_ || activation_timer_.isActive() || behind_held;
 }
 
 bool HeldInput::ComesBeforeActivation(QObject* object, const QEvent& event) const {
@@ -100,7 +90,6 @@ bool HeldInput::ComesBeforeActivation(QObject* object, const QEvent& event) cons
 }
 
 void HeldInput::StopAwaiting() {
-  awaited_.clear();
   activation_timer_.stop();
   ScheduleReplay();
 }
@@ -109,14 +98,14 @@ void HeldInput::StopAwaiting() {
 // and a new press. Equal time stamps give them away: nobody does both within a millisecond.
 // Not on Windows, where Qt marks each auto-repeat, and sets the time stamps itself.
 bool HeldInput::IsUnmarkedRepeat(QObject* object, const QEvent& event) {
-  if (!IsKey(event) || !object->isWindowType()) return false;
+  const QKeyEvent* key = KeyOf(event);
+  if (key == nullptr || !object->isWindowType()) return false;
   if (QGuiApplication::platformName() == "windows") return false;
-  const auto& key = static_cast<const QKeyEvent&>(event);
   // Keys that come through the accessibility service carry no time stamp.
-  if (key.nativeScanCode() == 0 || key.timestamp() == 0) return false;
-  const std::pair stroke(key.nativeScanCode(), key.timestamp());
+  if (key->nativeScanCode() == 0 || key->timestamp() == 0) return false;
+  const std::pair stroke(key->nativeScanCode(), key->timestamp());
   if (event.type() == QEvent::KeyRelease) last_release_ = stroke;
-  return event.type() != QEvent::KeyRelease && !key.isAutoRepeat() && stroke == last_release_;
+  return event.type() != QEvent::KeyRelease && !key->isAutoRepeat() && stroke == last_release_;
 }
 
 // Delivers, marked as an auto-repeat, a repeat that Qt did not mark.
@@ -130,7 +119,7 @@ void HeldInput::DeliverAsRepeat(QObject* object, QEvent& event) {
 }
 
 bool HeldInput::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) StopAwaiting();
+  if (event->type() == QEvent::WindowActivate && activation_timer_.isActive()) StopAwaiting();
   // A request to quit from the desktop environment closes an open message, and the handler that has
   // opened it goes on. The request must also end the program, even during the start.
   if (event->type() == QEvent::Quit && object == qApp && BlockingDialog::IsOpen()) Quit(0);
@@ -139,7 +128,7 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
     event->ignore();
     return MustHold() || BlockingDialog::Blocks(object, *event);
   }
-  if (!IsUserInput(*event)) return false;
+  if (std::ranges::count(kUserInput, event->type()) == 0) return false;
   if (IsUnmarkedRepeat(object, *event)) {
     DeliverAsRepeat(object, *event);
     return true;
@@ -150,55 +139,48 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
     return true;
   }
   if (!MustHold() && ComesBeforeActivation(object, *event)) {
-    awaited_ = qobject_cast<QWindow*>(object);
-    activation_timer_.start();
+    activation_timer_.start(kActivationTimeoutMs);
   }
-  if (MustHold()) return Hold(object, event);
+  if (MustHold()) {
+    Hold(object, event);
+    return true;
+  }
   if (BlockingDialog::Blocks(object, *event)) {
     event->accept();
     return true;
   }
-  return false;
+  return event->type() == QEvent::KeyPress &&
+         ApplyKeyRules(*object, static_cast<QKeyEvent&>(*event));
 }
 
-bool HeldInput::Hold(QObject* object, QEvent* event) {
-  if (event->type() == QEvent::Close) {
-    event->ignore();
-  } else {
-    event->accept();
-  }
-  // Not queued: ShortcutOverride, which Deliver sends itself, and repeats of a shortcut, which acts
-  // once.
+void HeldInput::Hold(QObject* object, QEvent* event) {
+  event->setAccepted(event->type() != QEvent::Close);
+  // Not queued: ShortcutOverride, which ReplayNext sends itself, and repeats of a shortcut, which
+  // acts once.
   if (event->type() != QEvent::ShortcutOverride && !IsHeldShortcut(*event)) {
     held_.push_back({object, std::unique_ptr<QEvent>(event->clone())});
   }
-  return true;
 }
 
 void HeldInput::ScheduleReplay() {
-  if (held_.empty() || replay_scheduled_) return;
-  replay_scheduled_ = true;
+  if (held_.empty() || std::exchange(replay_scheduled_, true)) return;
   QMetaObject::invokeMethod(this, &HeldInput::ReplayNext, Qt::QueuedConnection);
 }
 
 void HeldInput::ReplayNext() {
   replay_scheduled_ = false;
   // While a handler runs, nothing is delivered: the gate calls ScheduleReplay when it is idle.
-  if (held_.empty() || awaited_ != nullptr || Gate().Busy()) return;
+  if (held_.empty() || activation_timer_.isActive() || Gate().Busy()) return;
   const Held next = std::move(held_.front());
   held_.pop_front();
   if (next.receiver != nullptr) {
     const QScopedValueRollback replaying(replaying_, true);
-    Deliver(*next.receiver, *next.event);
+    const QKeyEvent* press = next.event->type() == QEvent::KeyPress ? KeyOf(*next.event) : nullptr;
+    if (press == nullptr || !ChoosesShortcut(*next.receiver, *press)) {
+      QCoreApplication::sendEvent(next.receiver, next.event.get());
+    }
   }
   ScheduleReplay();
-}
-
-void HeldInput::Deliver(QObject& receiver, QEvent& event) {
-  if (event.type() == QEvent::KeyPress) {
-    if (ChoosesShortcut(receiver, static_cast<const QKeyEvent&>(event))) return;
-  }
-  QCoreApplication::sendEvent(&receiver, &event);
 }
 
 }  // namespace fundlet

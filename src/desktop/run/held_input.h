@@ -8,7 +8,6 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
-#include <QWindow>
 
 namespace fundlet {
 
@@ -21,8 +20,8 @@ namespace fundlet {
 // On Wayland a click reaches a window before the activation that it causes. The click is held until
 // the activation has set the focus.
 //
-// Also discards the input to windows beneath an open dialog (BlockingDialog::Blocks), and marks key
-// repeats that Qt does not mark.
+// Also discards the input to windows beneath an open dialog (BlockingDialog::Blocks), marks key
+// repeats that Qt does not mark, and applies the rules for keys (ApplyKeyRules).
 class HeldInput : public QObject {
  public:
   HeldInput();
@@ -38,19 +37,16 @@ class HeldInput : public QObject {
     std::unique_ptr<QEvent> event;
   };
 
-  static int BackgroundTick();
   bool IsUnmarkedRepeat(QObject* object, const QEvent& event);
   static void DeliverAsRepeat(QObject* object, QEvent& event);
   bool MustHold() const;
   bool ComesBeforeActivation(QObject* object, const QEvent& event) const;
   void StopAwaiting();
-  bool Hold(QObject* object, QEvent* event);
+  void Hold(QObject* object, QEvent* event);
   void ReplayNext();
-  static void Deliver(QObject& receiver, QEvent& event);
 
   std::deque<Held> held_;
-  QPointer<QWindow> awaited_;  // the window whose activation a held click waits for
-  QTimer activation_timer_;
+  QTimer activation_timer_;  // runs while a held click waits for the activation of its window
   std::pair<quint32, quint64> last_release_;  // scan code and time stamp
   bool pumping_ = false;
   bool replaying_ = false;

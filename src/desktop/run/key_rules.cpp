@@ -1,5 +1,9 @@
 #include "desktop/run/key_rules.h"
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -59,19 +63,43 @@ bool ChoosesShortcut(QObject& window, const QKeyEvent& key) {
                                       key.text(), key.isAutoRepeat(), 1);
 }
 
-KeyRules::KeyRules() { QCoreApplication::instance()->installEventFilter(this); }
-
-bool KeyRules::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return false;
-  const auto& key = static_cast<const QKeyEvent&>(*event);
-  if (EntersCommand(*object, key)) {
-    event->ignore();
+bool ApplyKeyRules(QObject& receiver, QKeyEvent& press) {
+  if (EntersCommand(receiver, press)) {
+    press.ignore();
     return true;
   }
-  const int digit = DigitOnShift(*object, key);
-  const QKeyEvent shortcut(QEvent::KeyPress, Qt::Key_0 + digit, key.modifiers(), QString(),
-                           key.isAutoRepeat());
-  return digit != 0 && ChoosesShortcut(*object, shortcut);
+  const int digit = DigitOnShift(receiver, press);
+  const QKeyEvent shortcut(QEvent::KeyPress, Qt::Key_0 + digit, press.modifiers(), QString(),
+                           press.isAutoRepeat());
+  return digit != 0 && ChoosesShortcut(receiver, shortcut);
 }
+
+#ifdef Q_OS_WIN
+
+namespace {
+
+constexpr LPARAM kWasDown = LPARAM{KF_REPEAT} << 16;
+constexpr LPARAM kIsReleased = LPARAM{KF_UP} << 16;
+
+// Qt delivers each release of a modifier key, also one that follows no press.
+bool IsModifier(WPARAM key) {
+  return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU || key == VK_LWIN || key == VK_RWIN;
+}
+
+}  // namespace
+
+LostReleases::LostReleases() { QCoreApplication::instance()->installNativeEventFilter(this); }
+
+bool LostReleases::nativeEventFilter(const QByteArray& /*type*/, void* message,
+                                     qintptr* /*result*/) {
+  const auto& key = *static_cast<const MSG*>(message);
+  const bool pressed = key.message == WM_KEYDOWN || key.message == WM_SYSKEYDOWN;
+  if (pressed && (key.lParam & kWasDown) == 0 && !IsModifier(key.wParam)) {
+    SendMessageW(key.hwnd, WM_KEYUP, key.wParam, key.lParam | kWasDown | kIsReleased);
+  }
+  return false;
+}
+
+#endif
 
 }  // namespace fundlet

@@ -15,65 +15,57 @@
 #include "desktop/drawing/program_style.h"
 #include "desktop/run/held_input.h"
 #include "desktop/run/key_rules.h"
-#include "desktop/run/lost_releases.h"
 
 namespace fundlet {
 
 namespace {
 
-struct ImplicitInstances {
-  std::map<std::string, std::unique_ptr<Window>> by_class;
-};
+struct ImplicitInstances : std::map<std::string, std::unique_ptr<Window>> {};
+
+// What Qt says while the QApplication is made.
+struct PlatformMessages {
+  QStringList held;
+  QString cause;  // why the platform plug-in cannot open a window
+} messages;
+
+[[noreturn]] void GiveUp() {
+#ifdef Q_OS_LINUX
+  if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+    messages.cause = "there is no desktop, because neither DISPLAY nor WAYLAND_DISPLAY is set";
+  }
+#endif
+  std::fprintf(stderr, "%s: The window cannot be opened: %s\n", App().Name.c_str(),
+               qPrintable(messages.cause));
+  std::_Exit(1);
+}
+
+// A plug-in says why it fails, and then Qt that the plug-in could not be loaded.
+void HoldMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type == QtFatalMsg) GiveUp();
+  if (messages.cause.isEmpty() && qstrcmp(context.category, "qt.qpa.plugin") == 0) {
+    messages.cause = messages.held.isEmpty() ? text : messages.held.last();
+  }
+  messages.held.append(text);
+}
 
 // Holds Qt's messages back while the QApplication is made. If Qt gives up, because no platform
 // plug-in can open a window, the program ends with status 1 and one line that names the cause; Qt
 // would print them all, advise to reinstall the program, and call abort().
-class PlatformMessages {
- public:
-  PlatformMessages() {
-    held_.clear();
-    cause_.clear();
-    previous_ = qInstallMessageHandler(&Handle);
-  }
-  PlatformMessages(const PlatformMessages&) = delete;
-  PlatformMessages& operator=(const PlatformMessages&) = delete;
-  ~PlatformMessages() {
-    qInstallMessageHandler(previous_);
-    for (const QString& text : held_) qWarning("%s", qPrintable(text));
-  }
-
- private:
-  // A plug-in says why it fails, and then Qt that the plug-in could not be loaded.
-  static void Handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (type == QtFatalMsg) GiveUp();
-    if (cause_.isEmpty() && qstrcmp(context.category, "qt.qpa.plugin") == 0) {
-      cause_ = held_.isEmpty() ? text : held_.last();
-    }
-    held_.append(text);
-  }
-
-  [[noreturn]] static void GiveUp() {
-#ifdef Q_OS_LINUX
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-      cause_ = "there is no desktop, because neither DISPLAY nor WAYLAND_DISPLAY is set";
-    }
-#endif
-    std::fprintf(stderr, "%s: The window cannot be opened: %s\n", App().Name.c_str(),
-                 qPrintable(cause_));
-    std::_Exit(1);
-  }
-
-  inline static QStringList held_;
-  inline static QString cause_;
-  inline static QtMessageHandler previous_ = nullptr;
-};
+std::unique_ptr<QApplication> MakeApplication(int& argument_count, char** arguments) {
+  messages = {};
+  const QtMessageHandler previous = qInstallMessageHandler(&HoldMessage);
+  auto application = std::make_unique<QApplication>(argument_count, arguments);
+  qInstallMessageHandler(previous);
+  for (const QString& text : messages.held) qWarning("%s", qPrintable(text));
+  return application;
+}
 
 }  // namespace
 
 // Opening a window may show a message, whose answer may ask for the instance again.
 Window& ImplicitInstance(const std::string& class_name,
                          const std::function<std::unique_ptr<Window>()>& make) {
-  std::unique_ptr<Window>& instance = RunState::Of<ImplicitInstances>().by_class[class_name];
+  std::unique_ptr<Window>& instance = RunState::Of<ImplicitInstances>()[class_name];
   if (instance) return *instance;
   instance = make();
   instance->Open();
@@ -105,10 +97,7 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   // Its controls fit the heights in the layout.
   QApplication::setStyle(new ProgramStyle);
 #endif
-  {
-    const PlatformMessages messages;
-    parts_->application = std::make_unique<QApplication>(parts_->argument_count, parts_->arguments);
-  }
+  parts_->application = MakeApplication(parts_->argument_count, parts_->arguments);
   // Qt's search for fonts would delay the first window, so it runs on a thread of its own. All code
   // of the program runs on this thread.
   parts_->font_search = std::async([] { QFontDatabase::families(); });
@@ -116,7 +105,6 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   QApplication::setApplicationVersion(ToQt(App().Version));
   QApplication::setDesktopFileName(ToQt(App().DesktopFile));
   QApplication::setQuitOnLastWindowClosed(false);
-  RunState::Of<KeyRules>();
 #ifdef Q_OS_WIN
   RunState::Of<LostReleases>();
 #endif
