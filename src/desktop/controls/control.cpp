@@ -1,6 +1,9 @@
 #include "desktop/controls/control.h"
 
+#include <algorithm>
+
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -8,7 +11,6 @@
 #include "desktop/base/application.h"
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
-#include "desktop/drawing/text_fit.h"
 
 namespace fundlet {
 
@@ -130,6 +132,20 @@ QString AvailableFamily(const std::string& family) {
     if (QFontDatabase::hasFamily(humanist)) return humanist;
   }
   return QGuiApplication::font().family();
+}
+
+// The font, condensed just enough for the text to fit into `width` pixels, but to no less than half
+// its normal width, because narrower text cannot be read; a still wider text overflows.
+QFont NarrowedToFit(QFont font, const QString& text, int width) {
+  const auto text_width = [&] { return QFontMetricsF(font).horizontalAdvance(text); };
+  const qreal plain_width = text_width();
+  if (plain_width <= width) return font;
+  constexpr int kLeastStretch = 50;  // percent
+  int stretch = static_cast<int>(QFont::Unstretched * width / plain_width);
+  do {
+    font.setStretch(std::max(stretch, kLeastStretch));
+  } while (text_width() > width && --stretch >= kLeastStretch);
+  return font;
 }
 
 }  // namespace

@@ -129,7 +129,7 @@ inline constexpr AlignmentNumbers kFieldAlignment{0, 2, 3};  // 1 means left, to
 
 // A control with text. A font family that is not installed is replaced by a similar one; "System"
 // is the font of the desktop environment. The size is in pixels. A text that is wider than the
-// control is condensed (NarrowedToFit).
+// control is condensed.
 class TextControl : public Control {
  protected:
   // Rows that several classes share.

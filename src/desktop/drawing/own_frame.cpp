@@ -75,17 +75,16 @@ class FrameWidget : public QWidget {
 
  protected:
   bool eventFilter(QObject* /*object*/, QEvent* event) override {
-    if (event->type() == QEvent::Enter) dragged_ = false;
-    if (event->type() == QEvent::Resize) {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Enter) dragged_ = false;
+    if (type == QEvent::Resize) {
       // While the user drags an edge, the compositor may demand less than the size given with
       // xdg_toplevel.set_min_size, and Qt 6.8 complies. At other times any size must be accepted.
       if (dragged_) window_.resize(window_.size().expandedTo(window_.minimumSize()));
       Fit();
     }
-    const bool repaints = event->type() == QEvent::WindowActivate ||
-                          event->type() == QEvent::WindowDeactivate ||
-                          event->type() == QEvent::WindowTitleChange;
-    if (repaints) update();
+    const bool activation = type == QEvent::WindowActivate || type == QEvent::WindowDeactivate;
+    if (activation || type == QEvent::WindowTitleChange) update();
     return false;
   }
 
@@ -121,13 +120,10 @@ class FrameWidget : public QWidget {
     const bool along = edges.testAnyFlags(Qt::TopEdge | Qt::BottomEdge);
     const bool falling =
         edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
-    if (across && along) {
-      setCursor(falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor);
-    } else if (across || along) {
-      setCursor(across ? Qt::SizeHorCursor : Qt::SizeVerCursor);
-    } else {
-      unsetCursor();
-    }
+    Qt::CursorShape shape = across ? Qt::SizeHorCursor : Qt::ArrowCursor;
+    if (along) shape = Qt::SizeVerCursor;
+    if (across && along) shape = falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
+    setCursor(shape);
   }
 
  private:
@@ -187,16 +183,13 @@ bool OwnFrame::AddTo(QWidget& window) {
 }
 
 bool OwnFrame::IsOnTitle(const QObject* object, const QEvent& event) {
-  const bool mouse =
-      event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonRelease ||
-      event.type() == QEvent::MouseButtonDblClick || event.type() == QEvent::MouseMove;
-  if (!mouse) return false;
-  const double y = static_cast<const QMouseEvent&>(event).scenePosition().y();
+  const auto* mouse = dynamic_cast<const QMouseEvent*>(&event);
+  if (mouse == nullptr) return false;
   const auto* widget = qobject_cast<const QWidget*>(object);
   for (const QWidget* window : QApplication::topLevelWidgets()) {
     const bool here = window->windowHandle() == object || window->isAncestorOf(widget);
     const FrameWidget* frame = here ? FrameOf(*window) : nullptr;
-    if (frame != nullptr) return y < frame->TitleBottom();
+    if (frame != nullptr) return mouse->scenePosition().y() < frame->TitleBottom();
   }
   return false;
 }

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include <QApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -12,39 +10,14 @@ namespace fundlet {
 
 namespace {
 
-// The one copy of all palettes that equal the given one.
-const QPalette& SharedPalette(const QPalette& palette) {
-  static std::vector<QPalette> different;
-  const auto found = std::find(different.begin(), different.end(), palette);
-  return found != different.end() ? *found : different.emplace_back(palette);
-}
-
+// The option with the one copy of all palettes that equal its own.
 template <typename Option>
-Option WithSharedPalette(const Option& option) {
-  Option changed(option);
-  changed.palette = SharedPalette(option.palette);
-  return changed;
+Option WithSharedPalette(Option option) {
+  static std::vector<QPalette> different;
+  const auto found = std::ranges::find(different, option.palette);
+  option.palette = found != different.end() ? *found : different.emplace_back(option.palette);
+  return option;
 }
-
-// An arrow to the menus that do not fit into the bar.
-class ArrowIcon : public QIconEngine {
- public:
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap drawn(size);
-    drawn.fill(Qt::transparent);
-    QPainter painter(&drawn);
-    paint(&painter, drawn.rect(), mode, state);
-    return drawn;
-  }
-  void paint(QPainter* painter, const QRect& area, QIcon::Mode /*mode*/,
-             QIcon::State /*state*/) override {
-    QStyleOption option;
-    option.rect = area;
-    option.palette = QGuiApplication::palette();
-    QApplication::style()->drawPrimitive(QStyle::PE_IndicatorArrowRight, &option, painter);
-  }
-  QIconEngine* clone() const override { return new ArrowIcon(*this); }
-};
 
 }  // namespace
 
@@ -53,10 +26,6 @@ QPalette PaletteFor(const QColor& background) {
   const QColor selection(0x12, 0x57, 0x9C);
   const QColor dimmed(0x66, 0x66, 0x66);
   QPalette palette(button, background);
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Text, Qt::black);
-  palette.setColor(QPalette::WindowText, Qt::black);
-  palette.setColor(QPalette::ButtonText, Qt::black);
   palette.setColor(QPalette::PlaceholderText, dimmed);
   palette.setColor(QPalette::Highlight, selection);
   palette.setColor(QPalette::HighlightedText, Qt::white);
@@ -78,9 +47,9 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
   if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
     const QStyleOptionButton changed = WithSharedPalette(*button);
     QProxyStyle::drawPrimitive(element, &changed, painter, widget);
-    return;
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
-  QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -88,9 +57,9 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
   if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
     const QStyleOptionSlider changed = WithSharedPalette(*bar);
     QProxyStyle::drawComplexControl(control, &changed, painter, widget);
-    return;
+  } else {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
-  QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -106,14 +75,19 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
                                QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawControl(element, option, painter, widget);
   const bool reached = option->state.testFlag(State_Selected);
-  if (element != CE_MenuItem || !reached || option->state.testFlag(State_Enabled)) return;
-  painter->setPen(option->palette.color(QPalette::Highlight));
-  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  if (element == CE_MenuItem && reached && !option->state.testFlag(State_Enabled)) {
+    painter->setPen(option->palette.color(QPalette::Highlight));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  }
+  const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+  if (element == CE_ToolButtonLabel && button != nullptr && button->icon.isNull()) {
+    drawPrimitive(PE_IndicatorArrowRight, option, painter, widget);
+  }
 }
 
 QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
                                  const QWidget* widget) const {
-  if (picture == SP_ToolBarHorizontalExtensionButton) return QIcon(new ArrowIcon);
+  if (picture == SP_ToolBarHorizontalExtensionButton) return {};
   return QProxyStyle::standardIcon(picture, option, widget);
 }
 

@@ -5,8 +5,8 @@
 
 namespace fundlet {
 
-// The colours for controls on the background. They are chosen for it and not taken from the desktop
-// environment's theme, so that every text can be read under any theme.
+// The colours for controls on a light background. They are chosen for it and not taken from the
+// desktop environment's theme, so that every text can be read under any theme.
 QPalette PaletteFor(const QColor& background);
 
 // The style of the program on every system but the Mac, whatever the desktop environment's is.
@@ -27,14 +27,12 @@ class ProgramStyle : public QProxyStyle {
                           QPainter* painter, const QWidget* widget) const override;
 
   // Lets the arrow keys select disabled menu items too, so that a screen reader can name them, and
-  // draws a frame around a selected one.
+  // draws a frame around a selected one. Draws the arrow of a menu bar that is too narrow: Qt's own
+  // is an image file, and reading one would load the image plug-ins and delay the start.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
-
-  // Draws the arrow of a menu bar that is too narrow. Qt's own is an image file, and reading one
-  // would load the image plug-ins and delay the start.
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                      const QWidget* widget) const override;
 };
