@@ -4,6 +4,7 @@ import sys
 import time
 
 import pyatspi
+from gi.repository import GLib
 
 PATIENCE = 60  # seconds; the machine may have much else to do
 pyatspi.setTimeout(5000, -1)
@@ -18,8 +19,14 @@ def wait_for(what, found):
             value = None
         if value:
             return value
+        GLib.MainContext.default().iteration(False)
         time.sleep(0.05)
     sys.exit(f"accessibility: {what}")
+
+
+def expect(what, condition):
+    if not condition:
+        sys.exit(f"accessibility: {what}")
 
 
 def tree(node):
@@ -47,28 +54,25 @@ def text_of(node):
     return node.queryText().getText(0, -1)
 
 
-def act(node, name="Press"):
+def act(node):
     actions = node.queryAction()
     names = [actions.getName(i) for i in range(actions.nActions)]
-    if name not in names:
-        sys.exit(f"accessibility: {node.name} offers {names} and not {name}")
+    expect(f"{node.name} offers {names} and no press", "Press" in names)
     pyatspi.setTimeout(200, -1)
     try:
-        actions.doAction(names.index(name))
+        actions.doAction(names.index("Press"))
     except RuntimeError:
         pass  # no answer before the dialog that it opens has been closed
     pyatspi.setTimeout(5000, -1)
-
-
-def expect(what, condition):
-    if not condition:
-        sys.exit(f"accessibility: {what}")
 
 
 def result():
     return [n.name for n in everything() if n.name.startswith("Initial Year Draw:")]
 
 
+inserted = []
+pyatspi.Registry.registerEventListener(lambda event: inserted.append(event.any_data),
+                                       "object:text-changed:insert")
 wait_for("the program is not there", lambda: "Initial Year Draw:  $0" in result())
 
 fields = [node for node in everything() if node.getState().contains(pyatspi.STATE_EDITABLE)]
@@ -77,13 +81,13 @@ expect("eight fields with names of their own, descriptions and texts",
 expect("two rules", len([n for n in everything() if n.getRoleName() == "separator"
                          and n.parent.getRoleName() == "filler"]) == 2)
 
+the("text", "Start with 1 Jan:").queryEditableText().setTextContents("1999")
+wait_for("the program does not tell of a changed text", lambda: "1999" in inserted)
+
 calculate = the("push button", "Calculate Annual Draw")
 expect("the description of the button", calculate.description.startswith("Click this button"))
 act(calculate)
 wait_for("the result", lambda: "Initial Year Draw:  $73,325" in result())
-
-act(the("push button", "Remember Parameters"))
-act(the("push button", "Recall Paremeters"))
 
 act(the("menu item", "Fundlet Help…"))
 page = the("text", "Fundlet Help")
@@ -104,7 +108,6 @@ message = "Age must be at least 52 years old."
 wait_for("the alert cannot be read", lambda: find("label", message) or find("alert", message))
 act(the("push button", "OK"))
 wait_for("the forced age", lambda: text_of(the("text", "Age on 1 Jan:")) == "52")
-for command, years in (("2", "28"), ("4", "36"), ("8", "40")):
-    act(the("menu item", f"when 1/{command} survive"))
-    wait_for("the menu command", lambda: text_of(the("text", "Life Expectancy:")) == years)
+act(the("menu item", "when 1/2 survive"))
+wait_for("the menu command", lambda: text_of(the("text", "Life Expectancy:")) == "28")
 act(the("menu item", "Quit"))

@@ -6,12 +6,8 @@ here=$(dirname "$0")
 . "$here/../../tools/screen.sh"
 
 launcher=/usr/libexec/at-spi-bus-launcher
-for command in Xvfb openbox xdotool dbus-daemon "$launcher"; do
-  command -v "$command" >/dev/null && continue
-  echo "Skipped: $command is not installed."
-  exit 77
-done
-/usr/bin/python3 -c 'import pyatspi' 2>/dev/null || { echo 'Skipped: no pyatspi.'; exit 77; }
+need Xvfb openbox xdotool dbus-daemon "$launcher"
+/usr/bin/python3 -c 'import pyatspi' 2>/dev/null || skip 'pyatspi is not installed.'
 
 trap close_screen EXIT
 open_screen 1024x640

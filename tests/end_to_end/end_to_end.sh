@@ -19,21 +19,6 @@ expect() { # WHAT EXPECTED FOUND
   [ "$2" = "$3" ] || fail "$1"$'\n'"  expected: $2"$'\n'"  found:    $3"
 }
 
-# Starts the program and waits for its window. Sets process, main, and left and top, the place of the
-# content in the window.
-start_program() {
-  launch &
-  process=$!
-  screen_processes+=("$process")
-  wait_for 60 other_window_of_is_active "$process" none || fail 'the window did not open'
-  main=$(active_window)
-  local x y width height
-  read -r x y width height < <(window_place "$main")
-  left=$(((width - 740) / 2))
-  expect 'width of the border' "$([ "$session" = wayland ] && echo 1 || echo 0)" "$left"
-  top=$((height - 220 - left))
-}
-
 bytes_of() { od -An -v -tx1 "$1" | tr -d ' \n'; }
 parameters_are() { [ "$(bytes_of "$parameters")" = "$1" ]; }
 
@@ -48,48 +33,30 @@ result_picture() { window_picture "$main" $((left + 490)) $((top + 137)) 212 20 
 result_picture_is() { [ "$(result_picture)" = "$1" ]; }
 result_picture_is_not() { ! result_picture_is "$1"; }
 
-# Types the name of a file of that folder into the save dialog, which the shortcut opens. Sets dialog.
-name_schedule() {
+# The expected schedule is that of a plan of four years from 2010 on.
+schedule_is_saved() { sed "s/\$/$line_end/" "$here/../files/schedule.txt" | cmp -s - "$folder/typed.txt"; }
+window_has_gone() { ! xdotool getwindowname "$1"; }
+
+# Saves the schedule in place of another file.
+save_schedule() {
+  local dialog
+  echo 'What stood there before.' >"$folder/typed.txt"
   press ctrl+s
   wait_for 20 other_window_of_is_active "$process" "$main" || fail 'no save dialog'
   dialog=$(active_window)
   # The save dialog of wine, other than that of Windows, does not select the name that it proposes.
   [ "$session" != windows ] || press Home shift+End
-  type_text "$(typed_path "$folder/$1")"
+  type_text "$(typed_path "$folder/typed.txt")"
   press Return
-}
-
-window_has_gone() { ! xdotool getwindowname "$1"; }
-
-# When its save dialog closes, wine gives the keyboard to no window. Windows gives it to the one below.
-dialog_has_closed() {
+  wait_for 20 other_window_of_is_active "$process" "$dialog" || fail 'a file is replaced unasked'
+  press alt+y
+  # Then wine gives the keyboard to no window. Windows gives it to the one below.
   if [ "$session" = windows ]; then
     wait_for 20 window_has_gone "$dialog" || fail 'the save dialog stayed'
     xdotool windowactivate "$main"
   fi
   wait_for 20 is_active "$main" || fail 'the save dialog stayed'
-}
-
-# The expected schedule is that of a plan of four years from 2010 on.
-typed_schedule_is_in() { sed "s/\$/$line_end/" "$here/../files/schedule.txt" | cmp -s - "$folder/$1"; }
-
-expect_typed_schedule() { # NAME
-  dialog_has_closed
-  wait_for 20 typed_schedule_is_in "$1" || fail "the saved schedule:"$'\n'"$(cat "$folder/$1")"
-}
-
-# Asked whether a file may be replaced, the answer No leads back to the dialog with its name.
-replace_schedule() {
-  echo 'What stood there before.' >"$folder/typed.txt"
-  name_schedule typed.txt
-  wait_for 20 other_window_of_is_active "$process" "$dialog" || fail 'a file is replaced unasked'
-  press alt+n
-  wait_for 20 is_active "$dialog" || fail 'No did not lead back to the save dialog'
-  expect 'file that may not be replaced' 'What stood there before.' "$(cat "$folder/typed.txt")"
-  press Return
-  wait_for 20 other_window_of_is_active "$process" "$dialog" || fail 'no second question'
-  press alt+y
-  expect_typed_schedule typed.txt
+  wait_for 20 schedule_is_saved || fail "the saved schedule:"$'\n'"$(cat "$folder/typed.txt")"
 }
 
 picture() { # NAME
@@ -100,7 +67,7 @@ picture() { # NAME
 
 # The mouse on a desktop where a click reaches a window before it has become the active one.
 work_with_the_mouse() {
-  local x y width rest help
+  local help
   move_window "$main" 0 0
   press F1
   wait_for 20 other_window_of_is_active "$process" "$main" || fail 'F1 opened no help'
@@ -128,7 +95,8 @@ work_with_the_mouse() {
   type_text 60
   press ctrl+p
   expect_parameters 'after typing in the maximised window' "07df3c04$remembered"
-  read -r x y width rest < <(window_place "$main")
+  read -r _ _ width height < <(window_place "$main")
+  expect 'colour of the cross that closes' '#000000' "$(colour_at $((width - 17 - left)) $((17 - top)))"
   click_in "$main" $((width - 17)) 17
 }
 is_wide() { [ "$(window_place "$1" | awk '{ print $3 }')" -gt 1000 ]; }
@@ -155,7 +123,16 @@ if [ "$session" != windows ] && ldd "$program" | grep -iE 'network|curl|ssl|http
   fail 'linked with what talks to a network'
 fi
 
-start_program
+launch &
+process=$!
+screen_processes+=("$process")
+wait_for 60 other_window_of_is_active "$process" none || fail 'the window did not open'
+main=$(active_window)
+read -r _ _ width height < <(window_place "$main")
+# The place of the content in the window.
+left=$(((width - 740) / 2))
+top=$((height - 220 - left))
+expect 'width of the border' "$([ "$session" = wayland ] && echo 1 || echo 0)" "$left"
 expect 'title' Fundlet "$(window_title "$main")"
 expect_parameters 'after the first start' "$(date +%Y | xargs printf %04x)"411b3f947ae147ae147b412e848000000000\
 3fa999999999999a40d388000000000040f86a0000000000
@@ -176,9 +153,7 @@ press ctrl+r
 wait_for 20 result_picture_is "$nothing_drawn" || fail 'recalling did not clear the result'
 type_fields 2010 70 4 2.5 500,000 5 20,000 100,000
 press Return
-name_schedule typed.txt
-expect_typed_schedule typed.txt
-replace_schedule
+save_schedule
 press ctrl+p
 remembered=3f9999999999999a411e8480000000003fa999999999999a40d388000000000040f86a0000000000
 expect_parameters 'after remembering' "07da4604$remembered"
