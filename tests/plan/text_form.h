@@ -1,14 +1,27 @@
 #pragma once
 
 #include <functional>
+#include <iterator>
 #include <map>
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "plan/entry_form.h"
-#include "tests/plan/focus_code_name.h"
 
 namespace fundlet {
+
+// The name of a field's code, or of None.
+inline std::string NameOf(FocusCode code) {
+  constexpr const char* kNames[] = {"None",       "StartYear",      "StartAge",
+                                    "YearsLeft",  "COLA",           "StartFundlet",
+                                    "FundletAPR", "SocialSecurity", "EndFundlet"};
+  static_assert(std::size(kNames) == kFieldCount + 1);
+  return kNames[static_cast<std::size_t>(code)];
+}
+
+// What a failed test prints.
+inline void PrintTo(FocusCode code, std::ostream* out) { *out << NameOf(code); }
 
 // The texts of fields, by their codes.
 using Texts = std::map<FocusCode, std::string>;
