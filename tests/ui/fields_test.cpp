@@ -22,7 +22,7 @@ class FieldInput : public StartedTest {
   }
   static void Paste(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
-    user::Shortcut(Qt::Key_V);
+    user::Press("Ctrl+V");
   }
   // Sends a repeat of a held key, marked as such or as a release and a press at the same time.
   static void Repeat(QWidget& window, Qt::Key key, bool marked,
@@ -37,7 +37,7 @@ class FieldInput : public StartedTest {
 
 // Lets an input method compose the text over the whole text of the field.
 void Compose(const QString& field, const QString& text) {
-  user::Shortcut(Qt::Key_A);
+  user::Press("Ctrl+A");
   QInputMethodEvent composing(text, {});
   QCoreApplication::sendEvent(&Found(field), &composing);
 }
@@ -45,7 +45,7 @@ void Compose(const QString& field, const QString& text) {
 using Fields = StartedTest;
 using HeldKey = FieldInput;
 
-TEST_F(Fields, SelectTheForcedValueAfterARefusal) {
+TEST_F(Fields, SelectTheForcedValueAfterARefusalEvenIfAMenuWasOpened) {
   const std::tuple<const char*, const char*, const char*, Answer> refusals[] = {
       {"StartAgeField", "51", "52", ByKey(Qt::Key_Escape)},
       {"YearsLeftField", "41", "40", ByKey(Qt::Key_Return)},
@@ -56,6 +56,7 @@ TEST_F(Fields, SelectTheForcedValueAfterARefusal) {
     Fill(field, typed);
     ExpectDialog([&answer = answer](QWidget& dialog) {
       EXPECT_EQ(static_cast<QMessageBox&>(dialog).icon(), QMessageBox::Warning);
+      Main().Native().findChild<QMenu*>("EditMenu")->aboutToShow();
       answer(dialog);
     });
     Calculate();
@@ -67,16 +68,15 @@ TEST_F(Fields, SelectTheForcedValueAfterARefusal) {
 TEST_F(Fields, KeepTheFocusWhileAMenuOrAToolTipIsOpen) {
   const std::function<void()> openings[] = {
       [] { user::OpenMenu("File"); },
-      [] { user::Key(Qt::Key_E, Qt::AltModifier); },
+      [] { user::Press("Alt+E"); },
       [] { user::OpenContextMenu(); },
   };
   Fill("StartFundletField", "1234.5");
   for (const auto& open : openings) {
-    user::Shortcut(Qt::Key_A);
+    user::Press("Ctrl+A");
     open();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    user::Key(Qt::Key_Escape);
-    user::Key(Qt::Key_Alt);
+    user::Press("Esc Alt");
     EXPECT_EQ(FocusName(), "StartFundletField");
     EXPECT_EQ(Selected("StartFundletField"), "1234.5");
   }
@@ -89,10 +89,10 @@ TEST_F(Fields, OpenTheHelpAndShowTheirValueOnceLeft) {
   for (const main_layout::FieldRow& row : main_layout::Fields()) {
     const QString field = QString::fromUtf8(row.field.data());
     Fill(field, "7.555");
-    user::Key(Qt::Key_F1);
+    user::Press("F1");
     EXPECT_TRUE(GlobalModule::HelpShowing) << row.field;
     EXPECT_NE(Text(field), "7.555") << row.field;
-    user::Key(Qt::Key_Return);
+    user::Press("Return");
     EXPECT_EQ(Selected(field), Text(field));
   }
 }
@@ -100,10 +100,7 @@ TEST_F(Fields, OpenTheHelpAndShowTheirValueOnceLeft) {
 TEST_F(Fields, RegainTheFocusAtActivationsUntilTheNextCalculation) {
   CalculateRefused();
   const std::function<void()> departures[] = {
-      [] {
-        user::Key(Qt::Key_F1);
-        user::Key(Qt::Key_Return);
-      },
+      [] { user::Press("F1 Return"); },
       [] { user::VisitAnotherWindow(); },
   };
   const auto expect_focus_after_each = [&](const char* field) {
@@ -126,7 +123,7 @@ TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
   field.SetSelLength(99);
   EXPECT_EQ(field.SelStart(), 2);
   EXPECT_EQ(field.SelLength(), 1);
-  user::Key(Qt::Key_End);
+  user::Press("End");
   user::Type("12");
   EXPECT_EQ(Text("StartYearField"), "a😀b1");
 }
@@ -154,8 +151,8 @@ TEST_F(FieldInput, SelectsAllAtTheFirstClickAndAtADoubleClick) {
 
 TEST_F(FieldInput, AcceptsAPasteWholeOrNotAtAll) {
   const std::function<void()> roads[] = {
-      [] { user::Shortcut(Qt::Key_V); },
-      [] { user::Key(Qt::Key_Insert, Qt::ShiftModifier); },
+      [] { user::Press("Ctrl+V"); },
+      [] { user::Press("Shift+Ins"); },
       [] { user::Choose("Edit", "Paste"); },
       [] {
         user::OpenContextMenu();
@@ -164,14 +161,14 @@ TEST_F(FieldInput, AcceptsAPasteWholeOrNotAtAll) {
   };
   for (const auto& paste : roads) {
     Fill("SocialSecurityField", "7");
-    user::Shortcut(Qt::Key_A);
+    user::Press("Ctrl+A");
     QGuiApplication::clipboard()->setText("1,234,567");
     paste();
     EXPECT_EQ(Text("SocialSecurityField"), "7");
     QGuiApplication::clipboard()->setText("\u202F 25,000\n");
     paste();
     EXPECT_EQ(Text("SocialSecurityField"), "25,000");
-    user::Shortcut(Qt::Key_Z);
+    user::Press("Ctrl+Z");
     EXPECT_EQ(Text("SocialSecurityField"), "7");
   }
   user::Replace("");
@@ -204,38 +201,31 @@ TEST_F(FieldInput, KeepsWithinTheLimitAndCanBeUndone) {
   Fill("StartFundletField", "");
   Main().StartFundletField().SetText("1,000,000,000");
   user::Type("5");
-  user::Shortcut(Qt::Key_A);
+  user::Press("Ctrl+A");
   Paste("123456789012");
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
-  user::Key(Qt::Key_End);
-  user::Key(Qt::Key_Backspace);
-  user::Type("5");
+  user::Press("End Backspace 5");
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,00");
-  user::Shortcut(Qt::Key_Z);
+  user::Press("Ctrl+Z");
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
-  for (int deleted = 0; deleted < 3; ++deleted) user::Key(Qt::Key_Backspace);
-  user::Type("56");
+  user::Press("Backspace Backspace Backspace 5 6");
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,5");
 }
 
 TEST_F(FieldInput, EntersThePointOfTheKeypadAndNothingWithAltOrMeta) {
-  Fill("COLAField", "");
-  user::Type("1");
-  for (const Qt::KeyboardModifier modifier : {Qt::AltModifier, Qt::MetaModifier}) {
-    user::Key(Qt::Key_S, modifier);
-    user::Key(Qt::Key_2, modifier);
-  }
-  user::Key(Qt::Key_Comma, Qt::KeypadModifier);
-  user::Key(Qt::Key_5, Qt::KeypadModifier);
+  Fill("COLAField", "1");
+  user::Press("Alt+S Alt+2 Meta+S Meta+2 Num+, Num+5");
   EXPECT_EQ(Text("COLAField"), "1.5");
-  user::Key(Qt::Key_Comma);
+  user::Press(",");
   EXPECT_EQ(Text("COLAField"), "1.5,");
 }
 
 TEST_F(FieldInput, IncludesACompositionForEveryCommand) {
   const std::function<void()> commands[] = {
-      [] { user::Shortcut(Qt::Key_P); },        [] { user::Choose("File", "Remember Parameters"); },
-      [] { user::Click(Found("SaveButton")); }, [] { user::Key(Qt::Key_F1); },
+      [] { user::Press("Ctrl+P"); },
+      [] { user::Choose("File", "Remember Parameters"); },
+      [] { user::Click(Found("SaveButton")); },
+      [] { user::Press("F1"); },
       [] { user::VisitAnotherWindow(); },
   };
   for (const auto& command : commands) {
@@ -249,22 +239,22 @@ TEST_F(FieldInput, IncludesACompositionForEveryCommand) {
   Compose("StartAgeField", "70");
   user::OpenMenu("Edit");
   EXPECT_EQ(ThePlan().StartAge, 70);
-  user::Key(Qt::Key_Escape);
+  user::Press("Esc");
   Fill("COLAField", "3.25");
   Compose("COLAField", "123456");
   user::OpenMenu("Edit");
-  user::Key(Qt::Key_Escape);
+  user::Press("Esc");
   EXPECT_EQ(Selected("COLAField"), "3.25");
 }
 
 TEST_F(FieldInput, ShowsTheHeadOfTheTextOnceLeft) {
   auto& field = Found<QLineEdit>("StartYearField");
   Fill("StartYearField", "1e99");
-  user::Key(Qt::Key_Tab);
+  user::Press("Tab");
   EXPECT_GT(Text("StartYearField").size(), 15U);
   EXPECT_EQ(field.cursorPosition(), 0);
   Fill("StartFundletField", "1000000000");
-  user::Key(Qt::Key_Tab);
+  user::Press("Tab");
   auto& money = Found<QLineEdit>("StartFundletField");
   EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
   EXPECT_LT(money.fontMetrics().horizontalAdvance(money.text()), money.width() - 4);
@@ -291,17 +281,7 @@ TEST_F(HeldKey, AnswersNoDialogButTypesAName) {
     EXPECT_EQ(name->completer(), nullptr);
     only_by_a_fresh_key(dialog);
   });
-  user::Shortcut(Qt::Key_S);
-}
-
-TEST_F(FieldInput, KeepsTheForcedValueWhenAMenuOpensOverTheMessage) {
-  CalculateRefused([](QWidget& dialog) {
-    Main().Native().findChild<QMenu*>("EditMenu")->aboutToShow();
-    ByKey(Qt::Key_Return)(dialog);
-  });
-  EXPECT_EQ(Text("StartAgeField"), "52");
-  user::Type("61");
-  EXPECT_EQ(Text("StartAgeField"), "61");
+  user::Press("Ctrl+S");
 }
 
 }  // namespace

@@ -20,13 +20,13 @@ using SmallScreen = FundletTest;
 
 TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
   const std::function<void()> routes[] = {
-      [] { user::Shortcut(Qt::Key_E); },
-      [] { user::Key(Qt::Key_Help); },
-      [] { user::Key(Qt::Key_F1); },
+      [] { user::Press("Ctrl+E"); },
+      [] { user::Press("Help"); },
+      [] { user::Press("F1"); },
       [] { user::Choose("Help", "Fundlet Help…"); },
       [] {
         Main().ClearFocus();
-        user::Shortcut(Qt::Key_E);
+        user::Press("Ctrl+E");
       },
   };
   for (const auto& open : routes) {
@@ -37,11 +37,11 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
     const aHelpWindow* first = &Window();
     user::Activate(Main());
     EXPECT_EQ(Text("COLAField"), "3.1");
-    user::Key(Qt::Key_F1);
+    user::Press("F1");
     user::Choose("Help", "Fundlet Help…");
     EXPECT_EQ(&Window(), first);
     EXPECT_EQ(Showing(), 1);
-    user::Key(Qt::Key_Return);
+    user::Press("Return");
     EXPECT_EQ(Showing(), 0);
     EXPECT_FALSE(GlobalModule::HelpShowing);
     EXPECT_EQ(FocusName(), "COLAField");
@@ -49,7 +49,7 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
 }
 
 TEST_F(Help, FollowsTheSizeOfItsWindowOnceResized) {
-  user::Key(Qt::Key_F1);
+  user::Press("F1");
   EXPECT_EQ(Window().Native().Content().size(), QSize(498, 430));
   EXPECT_EQ(Found("TextField").geometry(), QRect(20, 20, 452, 356));
   EXPECT_EQ(Found("DoneButton").geometry(), QRect(405, 392, 69, 18));
@@ -61,20 +61,8 @@ TEST_F(Help, FollowsTheSizeOfItsWindowOnceResized) {
   EXPECT_EQ(Window().Native().maximumWidth(), 32000);
 }
 
-TEST_F(Help, LeavesAMessageOpenWhenItCloses) {
-  user::Key(Qt::Key_F1);
-  user::Activate(Main());
-  CalculateRefused([](QWidget& dialog) {
-    user::CloseBox(Window().Native());
-    EXPECT_EQ(Showing(), 0);
-    EXPECT_TRUE(dialog.isVisible());
-    ByKey(Qt::Key_Return)(dialog);
-  });
-  EXPECT_FALSE(GlobalModule::HelpShowing);
-}
-
 TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
-  user::Key(Qt::Key_F1);
+  user::Press("F1");
   auto& area = Found<QPlainTextEdit>("TextField");
   const auto enabled = [] {
     std::string names;
@@ -85,22 +73,20 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
     return names;
   };
   user::Type("x");
-  user::Key(Qt::Key_Delete);
+  user::Press("Del");
   EXPECT_EQ(Window().TextField().Text(), HelpText());
   EXPECT_EQ(enabled(), "");
-  for (int i = 0; i < 7; ++i) user::Key(Qt::Key_Right, Qt::ShiftModifier);
+  for (int i = 0; i < 7; ++i) user::Press("Shift+Right");
   user::OpenContextMenu();
   EXPECT_EQ(QApplication::activePopupWidget(), Window().Native().findChild<QMenu*>("EditMenu"));
-  user::Key(Qt::Key_Escape);
-  user::Key(Qt::Key_Tab);
-  user::Shortcut(Qt::Key_C);
+  user::Press("Esc Tab Ctrl+C");
   EXPECT_EQ(enabled(), "EditCopy");
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "Fundlet");
   EXPECT_FALSE(Window().MenuBar()._Lookup("FileSave").Enabled());
   EXPECT_TRUE(Window().MenuBar()._Lookup("HelpFundlet").Enabled());
   user::Click(*area.viewport());
   EXPECT_EQ(area.textCursor().selectedText(), "");
-  user::Shortcut(Qt::Key_A);
+  user::Press("Ctrl+A");
   user::Activate(Main());
   Window().UpdateMenuItems();
   Window().Native().findChild<QAction*>("EditCopy")->trigger();
@@ -109,37 +95,43 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
 }
 
 TEST_F(Help, KeepsItsPlaceAndPutsTheCaretWhereItIsPressed) {
-  user::Key(Qt::Key_F1);
+  user::Press("F1");
   auto& page = Found<QPlainTextEdit>("TextField");
-  user::Key(Qt::Key_Down, Qt::KeypadModifier);
+  user::Press("Num+Down");
   EXPECT_EQ(page.verticalScrollBar()->value(), 1);
   EXPECT_EQ(page.textCursor().blockNumber(), 1);
-  user::Key(Qt::Key_Tab);
+  user::Press("Tab");
   page.verticalScrollBar()->setValue(20);
   user::Click(*page.viewport(), QPoint(40, 100));
   EXPECT_EQ(page.verticalScrollBar()->value(), 20);
   EXPECT_TRUE(page.viewport()->rect().contains(page.cursorRect()));
   user::Activate(Main());
-  user::Key(Qt::Key_F1);
+  user::Press("F1");
   EXPECT_EQ(page.verticalScrollBar()->value(), 20);
-  user::Key(Qt::Key_Tab);
-  user::Key(Qt::Key_Tab);
+  user::Press("Tab Tab");
   EXPECT_EQ(page.textCursor().position(), 0);
   EXPECT_EQ(page.verticalScrollBar()->value(), 20);
-  user::Key(Qt::Key_Up);
+  user::Press("Up");
   EXPECT_EQ(page.verticalScrollBar()->value(), 19);
   EXPECT_TRUE(page.viewport()->rect().intersects(page.cursorRect()));
 }
 
-TEST_F(SmallScreen, ShowsTheTitleBarAndTheButtonOfTheHelp) {
+TEST_F(SmallScreen, ShowsTheHelpAndTheSaveDialogWhole) {
   UseScreen(683, 384);
   Start();
-  user::Key(Qt::Key_F1);
+  user::Press("F1");
   const QRect help = GlobalModule::HelpWindow->Native().geometry();
   EXPECT_GT(help.top(), 20);
   EXPECT_LE(help.bottom(), 384);
   const QRect button = Found("DoneButton").geometry();
   EXPECT_EQ(button.top(), GlobalModule::HelpWindow->Height() - 35);
+  user::Press("Return");
+  Calculate();
+  ExpectDialog([](QWidget& dialog) {
+    EXPECT_LE(dialog.height(), 384 - 40);
+    dialog.close();
+  });
+  user::Press("Ctrl+S");
 }
 
 }  // namespace

@@ -21,14 +21,13 @@ auto OpenFiles() {
 
 void Use(int rounds) {
   for (int i = 0; i < rounds; ++i) {
-    for (int solve = 0; solve < 10; ++solve) user::Key(Qt::Key_Return);
+    for (int solve = 0; solve < 10; ++solve) user::Press("Return");
     ASSERT_EQ(aFundletWindow::Instance().AnnualDrawField().Text(), "Initial Year Draw:  $73,325");
-    user::Key(Qt::Key_F1);
+    user::Press("F1");
     ASSERT_TRUE(GlobalModule::HelpShowing);
-    user::Key(Qt::Key_Return);
+    user::Press("Return");
     ASSERT_FALSE(GlobalModule::HelpShowing);
-    user::Key(Qt::Key_P, Qt::ControlModifier);
-    user::Key(Qt::Key_R, Qt::ControlModifier);
+    user::Press("Ctrl+P Ctrl+R");
   }
 }
 

@@ -15,20 +15,25 @@ namespace fs = std::filesystem;
 
 using Texts = std::vector<std::string>;
 
-const char* const kProposed = "Draw Schedule.txt";
+const QString kProposed = "Draw Schedule.txt";
 
 QLineEdit& NameIn(const QWidget& dialog) { return *dialog.findChild<QLineEdit*>("fileNameEdit"); }
 
+QPushButton& SaveIn(const QWidget& dialog) {
+  return *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save);
+}
+
 void Confirm(const QWidget& dialog, bool by_mouse) {
   if (by_mouse) {
-    user::Click(*dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save));
+    user::Click(SaveIn(dialog));
   } else {
-    user::Key(Qt::Key_Return);
+    user::Press("Return");
   }
 }
 
 void ByYes(QWidget& question) {
-  QAbstractButton* yes = static_cast<QMessageBox&>(question).button(QMessageBox::Yes);
+  const auto* box = qobject_cast<QMessageBox*>(&question);
+  QAbstractButton* yes = box != nullptr ? box->button(QMessageBox::Yes) : nullptr;
   ASSERT_NE(yes, nullptr) << "the dialog is no question";
   user::Click(*yes);
 }
@@ -48,10 +53,9 @@ class SaveDialog : public FundletTest {
       fs::create_directories(folder_.Path() / folder);
       folder_.Write((fs::path(folder) / "old").string(), "old");
     }
-    for (const auto& [link, target] :
-         {std::pair("link", "../beside"), {"to old", "sub/old"}, {"lost", "nowhere/file"}}) {
-      fs::remove(folder_.Path() / "Documents" / link);
-      fs::create_symlink(target, folder_.Path() / "Documents" / link);
+    for (const auto& [link, target] : {std::pair("link", "../beside"), {"to old", "sub/old"}}) {
+      std::error_code is_there;
+      fs::create_symlink(target, folder_.Path() / "Documents" / link, is_there);
     }
   }
 
@@ -62,25 +66,13 @@ class SaveDialog : public FundletTest {
 
   void InDialog(const Answer& answer) {
     ExpectDialog(answer);
-    user::Shortcut(Qt::Key_S);
+    user::Press("Ctrl+S");
   }
 
   // Types the name in the dialog key by key; presses Return or clicks Save.
   void Enter(QWidget& dialog, const std::string& name, bool by_mouse = false) const {
     user::Replace(Absolute(name));
     Confirm(dialog, by_mouse);
-  }
-
-  // Saves under that name, and answers the question with Yes where one is expected.
-  void Save(const std::string& name, bool by_mouse, bool asks = false) {
-    InDialog([=, this](QWidget& dialog) {
-      if (asks) ExpectDialog(ByYes);
-      Enter(dialog, name, by_mouse);
-      if (!dialog.isVisible()) return;
-      ADD_FAILURE() << "the dialog stayed";
-      ForgetExpected();
-      dialog.close();
-    });
   }
 
   // The files that hold a schedule; they are removed.
@@ -98,48 +90,59 @@ class SaveDialog : public FundletTest {
 };
 
 TEST_F(SaveDialog, WritesExactlyTheFileThatIsTyped) {
-  const struct {
-    const char* typed;
-    const char* written;
-    bool asks = false;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"new", "Documents/new"},
-      {"old", "Documents/old", true},
-      {"./old", "Documents/old", true},
-      {"sub/old", "Documents/sub/old", true},
+      {"old", "Documents/old"},
+      {"./old", "Documents/old"},
+      {"sub/old", "Documents/sub/old"},
       {"sub/new", "Documents/sub/new"},
-      {"../old", "old", true},
+      {"../old", "old"},
       {"../new", "new"},
-      {"../beside/old", "beside/old", true},
-      {"~/old", "old", true},
-      {"@/Documents/old", "Documents/old", true},
-      {"@/beside//old", "beside/old", true},
+      {"../beside/old", "beside/old"},
+      {"~/old", "old"},
+      {"@/Documents/old", "Documents/old"},
+      {"@/beside//old", "beside/old"},
       {"@/new", "new"},
-      {"link/old", "beside/old", true},
-      {"link/../old", "Documents/old", true},
-      {"to old", "Documents/sub/old", true},
+      {"link/old", "beside/old"},
+      {"link/../old", "Documents/old"},
+      {"to old", "Documents/sub/old"},
       {"a \"b\" c.txt", "Documents/a \"b\" c.txt"},
       {" new ", "Documents/ new "},
       {":new", "Documents/:new"},
       {"~new", "Documents/~new"},
   };
-  for (const bool later : {false, true}) {
-    for (const auto& row : rows) {
-      SCOPED_TRACE(row.typed + std::string(later ? ", later" : ""));
-      if (!later) End(), SetUp();
+  const QString documents = QString::fromStdString(Absolute("@/Documents"));
+  for (const bool by_mouse : {false, true}) {
+    for (const auto& [typed, written] : rows) {
+      SCOPED_TRACE(typed);
       MakeFiles();
-      if (later) Save("@/Documents/first", false);
-      TakeSchedules();
-      TakeDialogs();
+      const bool asks = fs::exists(folder_.Path() / written);
       Texts shown = {"Save"};
-      if (row.asks) {
-        shown.push_back("Save: " + fs::path(row.typed).filename().string() +
+      if (asks) {
+        shown.push_back("Save: " + fs::path(typed).filename().string() +
                         " already exists.\nDo you want to replace it?");
       }
-      Save(row.typed, later, row.asks);
+      InDialog([&, typed = typed](QWidget& dialog) {
+        static_cast<QFileDialog&>(dialog).setDirectory(documents);
+        if (asks) ExpectDialog(ByYes);
+        Enter(dialog, typed, by_mouse);
+        ForgetExpected();
+        dialog.close();
+      });
       EXPECT_EQ(TakeDialogs(), shown);
-      EXPECT_EQ(TakeSchedules(), Texts{row.written});
+      EXPECT_EQ(TakeSchedules(), Texts{written});
     }
+  }
+}
+
+TEST_F(SaveDialog, OpensInTheDocumentsAndThenInTheLastFolder) {
+  for (const char* folder : {"Documents", "beside"}) {
+    InDialog([&](QWidget& dialog) {
+      EXPECT_EQ(static_cast<QFileDialog&>(dialog).selectedFiles().value(0).toStdString(),
+                folder_.Path() / folder / kProposed.toStdString());
+      Enter(dialog, "@/beside/new");
+    });
+    EXPECT_EQ(TakeSchedules(), Texts{"beside/new"});
   }
 }
 
@@ -203,10 +206,12 @@ TEST_F(SaveDialog, TakesTheFileOrFolderSelectedInTheList) {
       list.selectionModel()->select(
           in_list().front(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     };
-    user::Replace("mine");
+    user::Replace("");
     select("sub");
     Confirm(dialog, true);
-    EXPECT_EQ(NameIn(dialog).text().toStdString(), "mine");
+    EXPECT_EQ(NameIn(dialog).text(), "");
+    EXPECT_TRUE(SaveIn(dialog).isEnabled());
+    user::Type("mine");
     select("old");
     ExpectDialog(ByYes);
     Confirm(dialog, true);
@@ -214,38 +219,49 @@ TEST_F(SaveDialog, TakesTheFileOrFolderSelectedInTheList) {
   EXPECT_EQ(TakeSchedules(), Texts{"Documents/sub/old"});
 }
 
-TEST_F(SaveDialog, WritesNothingOnceItIsClosed) {
-  InDialog([this](QWidget& dialog) {
-    ExpectDialog([&](QWidget& question) {
-      QTest::mouseClick(static_cast<QMessageBox&>(question).button(QMessageBox::Yes),
-                        Qt::LeftButton);
+TEST_F(SaveDialog, AsksBeforeItReplacesAFileAndTakesTheQuestionWithIt) {
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes, QMessageBox::NoButton}) {
+    InDialog([&](QWidget& dialog) {
+      ExpectDialog([&](QWidget& question) {
+        QWidget* button = static_cast<QMessageBox&>(question).button(answer);
+        if (button != nullptr) QTest::mouseClick(button, Qt::LeftButton);
+        if (answer != QMessageBox::No) dialog.close();
+        EXPECT_FALSE(question.isVisible());
+        question.close();
+      });
+      Enter(dialog, "old");
       dialog.close();
     });
-    Enter(dialog, "old");
-  });
+  }
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
 TEST_F(SaveDialog, BreaksTheLinesOfAMessageAboutALongName) {
   InDialog([this](QWidget& dialog) {
-    ExpectDialog([](QWidget& message) {
-      EXPECT_LT(message.findChild<QLabel*>("qt_msgbox_label")->minimumSizeHint().width(), 600);
-      message.close();
-    });
-    Enter(dialog, std::string(150, 'm') + '/');
+    for (const char* letter : {"m", "😀"}) {
+      ExpectDialog([](QWidget& message) {
+        EXPECT_LT(message.findChild<QLabel*>("qt_msgbox_label")->minimumSizeHint().width(), 600);
+        const QString text = static_cast<QMessageBox&>(message).text();
+        EXPECT_EQ(QString::fromUtf8(text.toUtf8()), text) << "not within a character";
+        message.close();
+      });
+      NameIn(dialog).setText('1' + QString(letter).repeated(150) + '/');
+      Confirm(dialog, true);
+    }
     dialog.close();
   });
 }
 
 TEST_F(SaveDialog, FitsAMessageAboutALongPathOnTheScreen) {
-  const QString path = QString("/x").repeated(2500);
+  const QString path = ('/' + QString("x").repeated(60)).repeated(80);
   InDialog([&](QWidget& dialog) {
     ExpectDialog([&](QWidget& message) {
       EXPECT_LT(message.height(), message.screen()->availableSize().height());
       const QString text = static_cast<QMessageBox&>(message).text();
       EXPECT_TRUE(text.startsWith("“Save Schedule”") && text.endsWith("too long."))
           << text.toStdString();
-      EXPECT_TRUE(message.findChild<QPlainTextEdit*>()->toPlainText().contains(path));
+      const auto* whole = message.findChild<QPlainTextEdit*>();
+      EXPECT_TRUE(whole != nullptr && whole->toPlainText().contains(path));
       message.close();
     });
     NameIn(dialog).setText(path);

@@ -36,7 +36,7 @@ TEST_F(GivenData, IsUnchangedInWindowsControlsAndMenus) {
     menus += item.Name + '\n' + item.Text + '\n' + item.KeyboardShortcut + '\n' +
              std::to_string(item.Children().size()) + '\n';
   });
-  user::Key(Qt::Key_F1);
+  user::Press("F1");
   const aHelpWindow& help = *GlobalModule::HelpWindow;
   std::string page_of_any_version = HelpText();
   page_of_any_version.erase(std::strlen("Fundlet\rVersion "), std::strlen(FUNDLET_VERSION));

@@ -63,12 +63,13 @@ void Settle() {
   }
 }
 
-void Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  QTest::keyClick(InFront(), key, modifiers);
-  Settle();
+void Press(const QString& keys) {
+  for (const QString& word : keys.split(' ')) {
+    const QKeyCombination key = QKeySequence::fromString(word)[0];
+    QTest::keyClick(InFront(), key.key(), key.keyboardModifiers());
+    Settle();
+  }
 }
-
-void Shortcut(Qt::Key key) { Key(key, Qt::ControlModifier); }
 
 void Type(const std::string& text) {
   for (const char c : text) QTest::keyClick(InFront(), c);
@@ -76,8 +77,7 @@ void Type(const std::string& text) {
 }
 
 void Replace(const std::string& text) {
-  Shortcut(Qt::Key_A);
-  Key(Qt::Key_Backspace);
+  Press("Ctrl+A Backspace");
   Type(text);
 }
 
@@ -211,6 +211,12 @@ int FundletTest::RunWith(const std::function<void()>& action) {
   return runtime_->Run();
 }
 
+void FundletTest::ExpectMessage(const std::function<void()>& action, const std::string& message) {
+  ExpectDialog(ByKey(Qt::Key_Escape));
+  action();
+  EXPECT_EQ(TakeDialogs(), std::vector{message});
+}
+
 std::vector<std::string> FundletTest::TakeDialogs() { return std::exchange(shown_, {}); }
 
 void FundletTest::Watch() {
@@ -240,7 +246,7 @@ void FundletTest::Handle(QWidget& dialog) {
 
 void FundletTest::Fill(const QString& field, const std::string& text) {
   for (int step = 0; step < 12 && FocusName() != field.toStdString(); ++step) {
-    user::Key(Qt::Key_Tab);
+    user::Press("Tab");
   }
   user::Replace(text);
 }

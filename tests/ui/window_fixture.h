@@ -19,7 +19,6 @@
 
 #include "desktop/run/runtime.h"
 #include "desktop/windows/native_window.h"
-#include "tests/plan/focus_code_name.h"
 #include "tests/services/scratch_folder.h"
 #include "ui/main_window.h"
 
@@ -30,9 +29,8 @@ namespace fundlet {
 // has processed every event that follows.
 namespace user {
 
-void Settle();  // processes all pending events
-void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-void Shortcut(Qt::Key key);  // the key with Control
+void Settle();                    // processes all pending events
+void Press(const QString& keys);  // one after the other, such as "Ctrl+A Backspace"
 void Type(const std::string& text);
 void Replace(const std::string& text);                       // selects all, then types
 void Click(QWidget& widget, std::optional<QPoint> at = {});  // at the middle by default
@@ -92,6 +90,8 @@ class FundletTest : public ::testing::Test {
   void End();  // ends the run and keeps the preferences folder for the next
   void ExpectDialog(Answer answer) { expected_.push_back(std::move(answer)); }
   void ForgetExpected() { expected_.clear(); }
+  // Expects that the action shows this message alone, which is answered by Escape.
+  void ExpectMessage(const std::function<void()>& action, const std::string& message);
   // Titles and texts of the dialogs since the last call, without the usual title "Fundlet".
   std::vector<std::string> TakeDialogs();
 
@@ -106,7 +106,7 @@ class FundletTest : public ::testing::Test {
   static std::string Result() { return Main().AnnualDrawField().Text(); }
   // Moves the focus to the field by Tab and replaces its text by typing.
   static void Fill(const QString& field, const std::string& text);
-  static void Calculate() { user::Key(Qt::Key_Return); }
+  static void Calculate() { user::Press("Return"); }
   // Calculates with an age of 51 years, which is refused, and answers the message.
   void CalculateRefused(Answer answer = ByKey(Qt::Key_Escape));
 

@@ -179,8 +179,7 @@ class SaveWidget : public QFileDialog {
     question.setDefaultButton(QMessageBox::No);
     question.setWindowTitle(windowTitle());
     BlockingDialog::Run(question);
-    // The dialog may have been closed after the answer was given.
-    return question.result() == QMessageBox::Yes && isVisible();
+    return question.result() == QMessageBox::Yes;
   }
 
   QString proposed_name_;
