@@ -44,8 +44,12 @@ export XDG_DATA_HOME=$screen_folder/data QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 log=$screen_folder/orca.log
 "$launcher" --launch-immediately 2>/dev/null &
 screen_processes+=($!)
-# To a terminal Orca writes each line at once.
-script -qfc 'orca --replace --debug-file /dev/tty -e speech' "$log" </dev/null >/dev/null 2>&1 &
+# Orca does not start where pgrep finds another Orca, be it that of another test or of the person who
+# runs the tests: this one shall find none. To a terminal it writes each line at once.
+mkdir "$screen_folder/bin"
+ln -s /bin/true "$screen_folder/bin/pgrep"
+PATH=$screen_folder/bin:$PATH script -qfc 'orca --debug-file /dev/tty -e speech' "$log" \
+  </dev/null >/dev/null 2>&1 &
 screen_processes+=($!)
 wait_for 60 is_heard 'Screen reader on'
 # Orca says so before it has asked for any event.
