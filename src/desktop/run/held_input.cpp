@@ -1,6 +1,5 @@
 #include "desktop/run/held_input.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QApplication>
@@ -26,20 +25,6 @@ constexpr int kYieldsPerTick = 500'000;
 // How long a click waits for the activation of its window, which the desktop may refuse.
 constexpr int kActivationTimeoutMs = 200;
 
-constexpr QEvent::Type kUserInput[] = {
-    QEvent::KeyPress,
-    QEvent::KeyRelease,
-    QEvent::ShortcutOverride,
-    QEvent::MouseButtonPress,
-    QEvent::MouseButtonRelease,
-    QEvent::MouseButtonDblClick,
-    QEvent::MouseMove,
-    QEvent::Wheel,
-    QEvent::InputMethod,
-    QEvent::ContextMenu,
-    QEvent::Close,
-};
-
 bool IsTouch(const QEvent& event) {
   return event.type() == QEvent::TouchBegin || event.type() == QEvent::TouchUpdate ||
          event.type() == QEvent::TouchEnd;
@@ -47,6 +32,13 @@ bool IsTouch(const QEvent& event) {
 
 // The event as a press, a release or a ShortcutOverride of a key; null if it is none.
 const QKeyEvent* KeyOf(const QEvent& event) { return dynamic_cast<const QKeyEvent*>(&event); }
+
+bool IsUserInput(const QEvent& event) {
+  const QEvent::Type type = event.type();
+  return KeyOf(event) != nullptr || dynamic_cast<const QMouseEvent*>(&event) != nullptr ||
+         type == QEvent::Wheel || type == QEvent::InputMethod || type == QEvent::ContextMenu ||
+         type == QEvent::Close;
+}
 
 bool IsHeldShortcut(const QEvent& event) {
   const QKeyEvent* key = KeyOf(event);
@@ -128,7 +120,7 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
     event->ignore();
     return MustHold() || BlockingDialog::Blocks(object, *event);
   }
-  if (std::ranges::count(kUserInput, event->type()) == 0) return false;
+  if (!IsUserInput(*event)) return false;
   if (IsUnmarkedRepeat(object, *event)) {
     DeliverAsRepeat(object, *event);
     return true;

@@ -23,7 +23,7 @@ namespace {
 struct ImplicitInstances : std::map<std::string, std::unique_ptr<Window>> {};
 
 // What Qt says while the QApplication is made.
-struct PlatformMessages {
+struct {
   QStringList held;
   QString cause;  // why the platform plug-in cannot open a window
 } messages;
