@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QWidget>
 
 #include "desktop/base/application.h"
@@ -24,18 +25,9 @@ constexpr auto kControlModifier = Qt::ControlModifier;
 
 // Breaks lines at blanks, after at most 80 characters where there is a blank: QToolTip does not
 // wrap plain text, and wraps rich text at a width of its own.
-QString Wrapped(const QString& text) {
-  constexpr qsizetype kLineLength = 80;
-  QString wrapped = text;
-  for (qsizetype line = 0; wrapped.size() - line > kLineLength;) {
-    const qsizetype line_end = wrapped.indexOf('\n', line);
-    const bool fits = line_end >= 0 && line_end - line <= kLineLength;
-    const qsizetype blank = wrapped.lastIndexOf(' ', line + kLineLength);
-    if (!fits && blank <= line) break;
-    if (!fits) wrapped[blank] = '\n';
-    line = (fits ? line_end : blank) + 1;
-  }
-  return wrapped;
+QString Wrapped(QString text) {
+  static const QRegularExpression line("(.{0,80})(?: |\n|$)");
+  return text.replace(line, "\\1\n").trimmed();
 }
 
 }  // namespace

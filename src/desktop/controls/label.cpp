@@ -6,7 +6,7 @@
 
 #include "desktop/accessibility/screen_reader_notifier.h"
 #include "desktop/base/qt_text.h"
-#include "desktop/controls/qt_properties.h"
+#include "desktop/controls/control_widget.h"
 
 namespace fundlet {
 

@@ -9,8 +9,7 @@
 
 #include "desktop/base/menu.h"
 #include "desktop/base/qt_text.h"
-#include "desktop/controls/focus_reporting.h"
-#include "desktop/controls/qt_properties.h"
+#include "desktop/controls/control_widget.h"
 
 namespace fundlet {
 

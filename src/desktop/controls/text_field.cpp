@@ -10,9 +10,8 @@
 #include "desktop/base/menu.h"
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
+#include "desktop/controls/control_widget.h"
 #include "desktop/controls/entry_widget.h"
-#include "desktop/controls/focus_reporting.h"
-#include "desktop/controls/qt_properties.h"
 #include "services/text.h"
 
 namespace fundlet {

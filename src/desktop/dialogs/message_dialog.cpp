@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include "desktop/base/qt_text.h"
 #include "desktop/dialogs/message_box.h"
@@ -19,25 +20,15 @@ namespace {
 
 constexpr int kFieldLines = 4;          // of the field with the whole text
 constexpr qsizetype kShortestEnd = 40;  // characters that are shown of each end of a text
-constexpr int kLongestWord = 40;        // characters; longer words are broken
 constexpr QChar kBreak = u'\u200B';     // zero width space
 constexpr int kPictureSize = 64;
 constexpr int kAboutWidth = 160;  // of the text, so that the title can be read
 
-// QLabel breaks no word, and would cut off a file name wider than the message.
-QString WithBreaks(const QString& text) {
-  QString broken;
-  int word = 0;
-  for (const QChar c : text) {
-    const bool part_of_last = c.isLowSurrogate() || c.isMark();
-    if (word >= kLongestWord && !part_of_last) {
-      broken += kBreak;
-      word = 0;
-    }
-    broken += c;
-    word = c.isSpace() || c == '/' ? 0 : word + 1;
-  }
-  return broken;
+// Breaks words of more than 40 characters. QLabel breaks no word, and would cut off a file name
+// wider than the message.
+QString WithBreaks(QString text) {
+  static const QRegularExpression long_part("((?:(?![\\s/])\\X){40})(?=[^\\s/])");
+  return text.replace(long_part, "\\1" + QString(kBreak));
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "desktop/windows/menu_view.h"
 
-#include <utility>
-
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -9,6 +7,8 @@
 
 #include "desktop/base/menu.h"
 #include "desktop/base/qt_text.h"
+#include "desktop/windows/native_window.h"
+#include "desktop/windows/window.h"
 
 namespace fundlet {
 
@@ -30,64 +30,53 @@ QAction::MenuRole RoleOf(const MenuItem& item) {
 
 }  // namespace
 
-MenuView::MenuView(Callbacks callbacks, const MenuItem& tree, QMenuBar& bar)
-    : callbacks_(std::move(callbacks)), bar_(bar) {
-  for (const auto& item : tree.Children()) {
+MenuView::MenuView(Window& window) : window_(window) {
+  QMenuBar& bar = *window.Native().menuBar();
+  for (const auto& item : window.MenuBar().Children()) {
     if (!item->IsShown()) continue;
-    auto* menu = new QMenu('&' + Escaped(item->Text), &bar);
-    menu->setObjectName(ToQt(item->Name));
-    Fill(*menu, *item);
+    QMenu* menu = NewMenu('&' + Escaped(item->Text), *item, bar);
     bar.addMenu(menu);
-    QObject::connect(menu, &QMenu::aboutToShow, menu, callbacks_.update);
+    QObject::connect(menu, &QMenu::aboutToShow, menu, [this] { window_.UpdateMenuItems(); });
   }
 }
 
-void MenuView::Fill(QMenu& menu, MenuItem& item) {
+QMenu* MenuView::NewMenu(const QString& title, const MenuItem& item, QWidget& parent) {
+  auto* menu = new QMenu(title, &parent);
+  menu->setObjectName(ToQt(item.Name));
   for (const auto& child : item.Children()) {
-    if (child->IsShown()) AddItem(menu, *child);
+    if (!child->IsShown()) continue;
+    if (child->IsSeparator()) {
+      menu->addSeparator();
+    } else if (child->OpensMenu()) {
+      QMenu* submenu = NewMenu(Escaped(child->Text), *child, *menu);
+      shown_.emplace_back(child.get(), menu->addMenu(submenu));
+    } else {
+      shown_.emplace_back(child.get(), AddAction(*menu, *child));
+    }
   }
+  return menu;
 }
 
-void MenuView::AddItem(QMenu& menu, MenuItem& item) {
-  if (item.IsSeparator()) {
-    menu.addSeparator();
-  } else if (item.OpensMenu()) {
-    AddMenuTo(menu, item);
-  } else {
-    shown_.push_back({&item, &AddAction(menu, item)});
-  }
-}
-
-QAction& MenuView::AddAction(QMenu& menu, MenuItem& item) {
-  QAction& action = *menu.addAction(Escaped(item.Text));
-  action.setObjectName(ToQt(item.Name));
+QAction* MenuView::AddAction(QMenu& menu, MenuItem& item) {
+  const auto choose = [this, &item] { window_.Choose(item); };
+  QAction* action = menu.addAction(Escaped(item.Text), &menu, choose);
+  action->setObjectName(ToQt(item.Name));
   // Qt does not fire the shortcut of a disabled QAction, and the item is enabled or disabled only
   // when it is chosen. So the action only shows the shortcut, and a QShortcut fires.
-  action.setShortcut(Shortcut(item));
-  action.setShortcutContext(Qt::WidgetShortcut);
-  if (!action.shortcut().isEmpty()) {
-    auto* shortcut = new QShortcut(action.shortcut(), bar_.window());
+  action->setShortcut(Shortcut(item));
+  action->setShortcutContext(Qt::WidgetShortcut);
+  if (!action->shortcut().isEmpty()) {
+    auto* shortcut = new QShortcut(action->shortcut(), &window_.Native(), choose);
     shortcut->setAutoRepeat(false);
-    QObject::connect(shortcut, &QShortcut::activated, &menu,
-                     [this, &item] { callbacks_.choose(item); });
   }
   if (item.Edits != EditCommand::None) edit_menu_ = &menu;
-  action.setMenuRole(RoleOf(item));
-  action.setEnabled(false);
-  QObject::connect(&action, &QAction::triggered, &menu, [this, &item] { callbacks_.choose(item); });
+  action->setMenuRole(RoleOf(item));
+  action->setEnabled(false);
   return action;
 }
 
-void MenuView::AddMenuTo(QMenu& menu, MenuItem& item) {
-  auto* submenu = new QMenu(Escaped(item.Text), &menu);
-  submenu->setObjectName(ToQt(item.Name));
-  Fill(*submenu, item);
-  menu.addMenu(submenu);
-  shown_.push_back({&item, submenu->menuAction()});
-}
-
 void MenuView::UpdateActions() {
-  for (const Shown& shown : shown_) shown.action->setEnabled(shown.item->Enabled());
+  for (const auto& [item, action] : shown_) action->setEnabled(item->Enabled());
 }
 
 void MenuView::ShowEditMenu(const QPoint& place) const {

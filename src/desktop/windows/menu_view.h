@@ -1,29 +1,26 @@
 #pragma once
 
-#include <functional>
+#include <utility>
 #include <vector>
 
 class QAction;
 class QMenu;
-class QMenuBar;
 class QPoint;
+class QString;
+class QWidget;
 
 namespace fundlet {
 
 class MenuItem;
+class Window;
 
 // The QMenus of one window, made from the tree of menu items. The windows share the tree; each has
 // menus and QActions of its own, which act on that window.
 class MenuView {
  public:
-  // update enables and disables the items, and then calls UpdateActions; choose is called for each
-  // item that the user picks, by its shortcut also while it is disabled.
-  struct Callbacks {
-    std::function<void()> update;
-    std::function<void(MenuItem&)> choose;
-  };
-  // Fills the bar. The tree and the bar must outlive this.
-  MenuView(Callbacks callbacks, const MenuItem& tree, QMenuBar& bar);
+  // Fills the window's menu bar. A menu that opens calls Window::UpdateMenuItems; Window::Choose is
+  // called for each item that the user picks, by its shortcut also while it is disabled.
+  explicit MenuView(Window& window);
 
   // Enables each QAction whose item is enabled, and disables the others.
   void UpdateActions();
@@ -32,19 +29,11 @@ class MenuView {
   void ShowEditMenu(const QPoint& place) const;
 
  private:
-  struct Shown {
-    MenuItem* item;
-    QAction* action;
-  };
+  QMenu* NewMenu(const QString& title, const MenuItem& item, QWidget& parent);
+  QAction* AddAction(QMenu& menu, MenuItem& item);
 
-  void AddItem(QMenu& menu, MenuItem& item);
-  QAction& AddAction(QMenu& menu, MenuItem& item);
-  void AddMenuTo(QMenu& menu, MenuItem& item);
-  void Fill(QMenu& menu, MenuItem& item);
-
-  Callbacks callbacks_;
-  QMenuBar& bar_;
-  std::vector<Shown> shown_;
+  Window& window_;
+  std::vector<std::pair<const MenuItem*, QAction*>> shown_;
   QMenu* edit_menu_ = nullptr;
 };
 

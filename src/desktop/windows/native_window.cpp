@@ -118,9 +118,9 @@ void NativeWindow::SetBackColor(Colour colour) {
   centralWidget()->setPalette(PaletteFor(QColor(colour.red, colour.green, colour.blue)));
 }
 
-void NativeWindow::ShowMenus(const MenuItem& tree, MenuView::Callbacks callbacks) {
+void NativeWindow::ShowMenus() {
   if (!menu_bar_visible_) return;
-  menus_ = std::make_unique<MenuView>(std::move(callbacks), tree, *menuBar());
+  menus_ = std::make_unique<MenuView>(window_);
   FitToContent();
 }
 

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 
-#include <QKeyCombination>
 #include <QMainWindow>
 
 #include "desktop/base/property_set.h"
@@ -49,7 +48,7 @@ class NativeWindow : public QMainWindow {
   void SetMenuBarVisible(bool visible) { menu_bar_visible_ = visible; }
 
   // Makes the menus, unless the menu bar is hidden. To be called once.
-  void ShowMenus(const MenuItem& tree, MenuView::Callbacks callbacks);
+  void ShowMenus();
   MenuView* Menus() const { return menus_.get(); }  // null if the window shows none
   // Shows the window for the first time.
   void ShowFirst();

@@ -148,8 +148,7 @@ void Window::Show() {
 
 void Window::FirstShow() {
   Control* first = ApplyTabOrder();
-  native_->ShowMenus(MenuBar(),
-                     {[this] { UpdateMenuItems(); }, [this](MenuItem& item) { Choose(item); }});
+  native_->ShowMenus();
   if (centred_) Centre();
   native_->ShowFirst();
   native_->raise();
@@ -279,11 +278,15 @@ void Window::CommitComposition() const {
   if (focused_ != nullptr) focused_->CommitComposition();
 }
 
-bool Window::HasHandler(const MenuItem& item) const {
-  if (!item.AutoEnable) return false;
-  if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return true;
-  if (item.Edits != EditCommand::None) return EditTarget(item.Edits) != nullptr;
-  return menu_handlers_.contains(item.Name);
+std::function<void()> Window::ActionOf(const MenuItem& item) {
+  if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return [] { Quit(0); };
+  if (const auto found = menu_handlers_.find(item.Name); found != menu_handlers_.end()) {
+    return [&handler = found->second] { handler(); };
+  }
+  if (Control* target = EditTarget(item.Edits); target != nullptr) {
+    return [target, command = item.Edits] { target->Edit(command); };
+  }
+  return {};
 }
 
 Control* Window::EditTarget(EditCommand command) const {
@@ -298,7 +301,7 @@ void Window::UpdateMenuItems() {
   if (BlockingDialog::IsOpen()) return;
   Gate().EnterWithin([this] {
     MenuBar().ForEach([this](MenuItem& item) {
-      if (HasHandler(item)) {
+      if (item.AutoEnable && ActionOf(item)) {
         item.Enable();
       } else {
         item.Disable();
@@ -314,14 +317,7 @@ void Window::Choose(MenuItem& item) {
   UpdateMenuItems();
   if (!item.Enabled()) return;
   Gate().Enter(item.Text, [this, &item] {
-    if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) {
-      Quit(0);
-    } else if (const auto handler = menu_handlers_.find(item.Name);
-               handler != menu_handlers_.end()) {
-      handler->second();
-    } else if (Control* target = EditTarget(item.Edits); target != nullptr) {
-      target->Edit(item.Edits);
-    }
+    if (const auto action = ActionOf(item)) action();
   });
 }
 

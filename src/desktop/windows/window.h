@@ -90,6 +90,8 @@ class Window : public PropertyTarget, public ControlOwner {
   // Enables the menu items that can be chosen now and disables the others; does nothing while a
   // dialog is open.
   void UpdateMenuItems();
+  // Runs the item's handler or command if it is enabled; does nothing while a dialog is open.
+  void Choose(MenuItem& item);
 
   QWidget& Content() const override;
   Control* Focused() const override { return focused_; }
@@ -114,10 +116,9 @@ class Window : public PropertyTarget, public ControlOwner {
   // 2 is the middle of the main screen; other numbers have no effect.
   void SetPlacement(std::int64_t placement) { centred_ = placement == 2; }
   void FirstShow();
-  void Choose(MenuItem& item);  // runs the item's handler or command if it is enabled
   void Centre();
   Control* ApplyTabOrder();  // returns the first control in the order; null if there is none
-  bool HasHandler(const MenuItem& item) const;
+  std::function<void()> ActionOf(const MenuItem& item);  // empty if the item has none now
   Control* EditTarget(EditCommand command) const;  // null if the command can act on no control
 
   // Declared before native_, so that the widgets, which refer to these, are destroyed first.
