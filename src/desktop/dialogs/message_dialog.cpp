@@ -24,11 +24,11 @@ constexpr QChar kBreak = u'\u200B';     // zero width space
 constexpr int kPictureSize = 64;
 constexpr int kAboutWidth = 160;  // of the text, so that the title can be read
 
-// Breaks words of more than 40 characters. QLabel breaks no word, and would cut off a file name
-// wider than the message.
+// Puts a break after each 40 characters, which may have marks (\X), without a blank or a slash:
+// QLabel breaks lines only at those, and would cut off a file name wider than the message.
 QString WithBreaks(QString text) {
-  static const QRegularExpression long_part("((?:(?![\\s/])\\X){40})(?=[^\\s/])");
-  return text.replace(long_part, "\\1" + QString(kBreak));
+  static const QRegularExpression long_part(R"(((?:(?![\s/])\X){40})(?=[^\s/]))");
+  return text.replace(long_part, R"(\1)" + QString(kBreak));
 }
 
 }  // namespace

@@ -111,7 +111,8 @@ void Runtime::Start(const std::function<void()>& early, const std::function<void
   auto& held_input = RunState::Of<HeldInput>();
   RunState::Of<ScreenReaderNotifier>();
   const auto commit_composition = [] {
-    if (const Window* front = Window::Front(); front != nullptr) front->CommitComposition();
+    const Window* front = Window::Front();
+    if (front != nullptr && front->Focused() != nullptr) front->Focused()->CommitComposition();
   };
   const auto update_menus = [] {
     if (Window* front = Window::Front(); front != nullptr) front->UpdateMenuItems();

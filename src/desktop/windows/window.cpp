@@ -274,10 +274,6 @@ void Window::OnFocusLost(Control& control) {
   Gate().EnterWithin([&] { control.FireLostFocus(); });
 }
 
-void Window::CommitComposition() const {
-  if (focused_ != nullptr) focused_->CommitComposition();
-}
-
 std::function<void()> Window::ActionOf(const MenuItem& item) {
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return [] { Quit(0); };
   if (const auto found = menu_handlers_.find(item.Name); found != menu_handlers_.end()) {

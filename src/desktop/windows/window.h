@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <typeinfo>
 #include <vector>
 
 #include "desktop/base/menu.h"
@@ -85,8 +84,6 @@ class Window : public PropertyTarget, public ControlOwner {
 
   // For the other classes of src/desktop.
   NativeWindow& Native() const { return *native_; }
-  // Makes the text that an input method is composing part of the text of the focused control.
-  void CommitComposition() const;
   // Enables the menu items that can be chosen now and disables the others; does nothing while a
   // dialog is open.
   void UpdateMenuItems();
