@@ -1,5 +1,6 @@
 """What a screen reader finds in the running program, and what it can do there."""
 
+import subprocess
 import sys
 import time
 
@@ -70,9 +71,11 @@ def result():
     return [n.name for n in everything() if n.name.startswith("Initial Year Draw:")]
 
 
-inserted = []
+inserted, focused = [], []
 pyatspi.Registry.registerEventListener(lambda event: inserted.append(event.any_data),
                                        "object:text-changed:insert")
+pyatspi.Registry.registerEventListener(lambda event: focused.append(event.source.name),
+                                       "object:state-changed:focused")
 wait_for("the program is not there", lambda: "Initial Year Draw:  $0" in result())
 
 fields = [node for node in everything() if node.getState().contains(pyatspi.STATE_EDITABLE)]
@@ -83,6 +86,14 @@ expect("two rules", len([n for n in everything() if n.getRoleName() == "separato
 
 the("text", "Start with 1 Jan:").queryEditableText().setTextContents("1999")
 wait_for("the program does not tell of a changed text", lambda: "1999" in inserted)
+
+# Another window comes and goes.
+with subprocess.Popen(sys.argv[1]) as other:
+    wait_for("the other window is not active", lambda: len(result()) == 2 and focused)
+    focused.clear()
+    other.terminate()
+wait_for("no focus is told of after the window has become active again",
+         lambda: "Start with 1 Jan:" in focused)
 
 calculate = the("push button", "Calculate Annual Draw")
 expect("the description of the button", calculate.description.startswith("Click this button"))

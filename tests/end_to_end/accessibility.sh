@@ -18,5 +18,5 @@ export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 "$program" &
 process=$!
 screen_processes+=("$process")
-timeout 240 /usr/bin/python3 "$here/accessibility.py"
+timeout 240 /usr/bin/python3 "$here/accessibility.py" "$program"
 wait "$process"
