@@ -1,8 +1,5 @@
 #include "files/remembered_parameters.h"
 
-#include <bit>
-#include <cmath>
-
 #include <gtest/gtest.h>
 
 #include "plan/parameters_file.h"
@@ -14,7 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string kNoNumber("\x7F\xF4\0\0\0\0\0\x01", 8);
 const std::string kMinusZero("\x80\0\0\0\0\0\0\0", 8);
 const std::string kThousand("\x40\x8F\x40\0\0\0\0\0", 8);
 
@@ -35,24 +31,6 @@ TEST(SaveParameters, WritesTheTextsOverTheRecordAndKeepsTheBytesAfterIt) {
                                                   kMinusZero + kThousand + kThousand + "tail");
   EXPECT_TRUE(form.actions.empty());
   EXPECT_EQ(plan.YearsLeft, 200);
-}
-
-TEST(RestoreParameters, ReadsEveryBitAndShowsThePlanBeforeItMovesTheFocus) {
-  const ScratchFolder folder;
-  folder.Write(kParametersFileName, "\x80\x01\x28\xFD" + kNoNumber + kThousand + kMinusZero +
-                                        kMinusZero + kThousand + "tail");
-  Plan plan;
-  plan.OKtoPrint = true;
-  TextForm form;
-  RestoreParameters(plan, form);
-  EXPECT_EQ(std::bit_cast<std::uint64_t>(plan.COLA), 0x7FF4000000000001);
-  EXPECT_TRUE(std::signbit(plan.FundletAPR));
-  EXPECT_TRUE(plan.OKtoPrint);
-  EXPECT_EQ(form.actions, (std::vector<std::string>{
-                              "text StartYear -32767", "text StartAge 40", "text YearsLeft -3",
-                              "text COLA NaN", "text StartFundlet 1,000", "text FundletAPR 0.0",
-                              "text SocialSecurity 0", "text EndFundlet 1,000", "select StartYear",
-                              "result Initial Year Draw:  $0", "focus StartYear"}));
 }
 
 TEST(RememberedParameters, LeavePlanAndTextsUnchangedIfTheirFolderCannotBeEntered) {

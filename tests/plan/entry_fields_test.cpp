@@ -34,23 +34,5 @@ TEST(LeaveField, ReadsTheTextAndShowsWhatWasReadWithoutATestOfItsRange) {
   EXPECT_EQ(plan.StartFundlet, 1234.567);
 }
 
-TEST(Refocus, ShowsAllParametersAndSelectsTheLastField) {
-  Plan plan;
-  TextForm form;
-  ReadAllFields(plan, form);
-  plan.COLA = 0.03125;
-  std::vector<std::string> shown = {"text StartYear 2010",        "text StartAge 70",
-                                    "text YearsLeft 4",           "text COLA 3.125",
-                                    "text StartFundlet 500,000",  "text FundletAPR 5.0",
-                                    "text SocialSecurity 20,000", "text EndFundlet 100,000"};
-  Refocus(plan, form);
-  EXPECT_EQ(form.actions, shown) << "no field has had the focus yet";
-  EnterField(plan, StartYear, form);
-  form.actions.clear();
-  Refocus(plan, form);
-  shown.insert(shown.end(), {"focus StartYear", "select StartYear"});
-  EXPECT_EQ(form.actions, shown);
-}
-
 }  // namespace
 }  // namespace fundlet
