@@ -142,6 +142,15 @@ int VisibleWindows(const QString& title) {
   }));
 }
 
+std::string EnabledEditing(Window& window) {
+  std::string names;
+  window.UpdateMenuItems();
+  window.MenuBar().ForEach([&](MenuItem& item) {
+    if (item.Enabled() && item.Edits != EditCommand::None) names += item.Name;
+  });
+  return names;
+}
+
 std::string FocusName() {
   const QWidget* widget = QApplication::focusWidget();
   return widget != nullptr ? widget->objectName().toStdString() : "";
@@ -152,7 +161,7 @@ Answer ByKey(Qt::Key key) {
 }
 
 Answer ByButton() {
-  return [](QWidget& dialog) { user::Click(*static_cast<QMessageBox&>(dialog).defaultButton()); };
+  return [](QWidget& dialog) { user::Click(*dynamic_cast<QMessageBox&>(dialog).defaultButton()); };
 }
 
 Answer ByCloseBox() {
@@ -161,9 +170,9 @@ Answer ByCloseBox() {
 
 Answer BySaving(const std::string& path) {
   return [path](QWidget& dialog) {
-    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-    name->setFocus();
-    name->selectAll();
+    auto& name = Found<QLineEdit>("fileNameEdit");
+    name.setFocus();
+    name.selectAll();
     QGuiApplication::clipboard()->setText(QString::fromStdString(path));
     QTest::keyClick(dialog.windowHandle(), Qt::Key_V, Qt::ControlModifier);
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
@@ -241,7 +250,12 @@ void FundletTest::Handle(QWidget& dialog) {
   }
   const Answer answer = std::move(expected_.front());
   expected_.pop_front();
-  answer(dialog);
+  try {
+    answer(dialog);
+  } catch (const std::exception& error) {
+    ADD_FAILURE() << "the answer is not for this dialog: " << error.what();
+    dialog.close();
+  }
 }
 
 void FundletTest::Fill(const QString& field, const std::string& text) {

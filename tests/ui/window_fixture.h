@@ -66,6 +66,8 @@ struct Paints : QObject {
   int count = 0;
 };
 int VisibleWindows(const QString& title);
+// The names of the enabled items for editing, after a menu update of that window.
+std::string EnabledEditing(Window& window);
 std::string FocusName();  // the focused widget's object name; empty if there is none
 
 // Answers a dialog as the user would.
