@@ -7,9 +7,12 @@
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 #include "desktop/base/qt_text.h"
 #include "desktop/base/run_state.h"
+#include "desktop/controls/text_field.h"
 
 namespace fundlet {
 
@@ -60,6 +63,20 @@ EntryWidget::EntryWidget() {
   connect(this, &QLineEdit::textChanged, this, &EntryWidget::Changed);
 }
 
+TextField& EntryWidget::Field() const { return static_cast<TextField&>(Attached()); }
+
+void EntryWidget::SetCueText(std::string_view text) { setPlaceholderText(ToQt(text)); }
+
+int EntryWidget::WidthForText() const {
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+  const QMargins margins = textMargins();
+  constexpr int kOwnMargins = 4;
+  constexpr int kCaret = 1;
+  return contents.width() - margins.left() - margins.right() - kOwnMargins - kCaret;
+}
+
 void EntryWidget::Write(const QString& text) {
   change_accepted_ = true;
   setText(text);
@@ -83,13 +100,20 @@ bool EntryWidget::HasRoomFor(const QString& typed) const {
   return limit_ == 0 || Length(text()) - Length(selectedText()) + Length(typed) <= limit_;
 }
 
+// The text to set instead of one that results from a paste or a drop; nullopt to refuse it.
+std::optional<QString> EntryWidget::Accepted(const QString& outcome) const {
+  if (!Field().Pasting) return outcome;
+  std::optional<std::string> entry;
+  Gate().EnterWithin([&] { entry = Field().Pasting(FromQt(outcome), limit_); });
+  return entry ? std::optional(ToQt(*entry)) : std::nullopt;
+}
+
 void EntryWidget::Insert(const QString& text) {
   if (isReadOnly()) return;
   CommitComposition();
   const int begin = hasSelectedText() ? selectionStart() : cursorPosition();
   const QString behind = this->text().mid(begin + selectedText().size());
-  QString outcome = this->text().left(begin) + text.trimmed() + behind;
-  const std::optional<QString> entry = FilterInsertion ? FilterInsertion(outcome) : outcome;
+  const auto entry = Accepted(this->text().left(begin) + text.trimmed() + behind);
   const bool changes = entry && !text.trimmed().isEmpty();
   if (!changes || (limit_ > 0 && Length(*entry) > limit_)) {
     QApplication::beep();
@@ -100,18 +124,49 @@ void EntryWidget::Insert(const QString& text) {
   setCursorPosition(static_cast<int>(std::max<qsizetype>(0, entry->size() - behind.size())));
 }
 
+// Replaces the whole text by an action that needs no focus (drop, middle click, assistive
+// technology).
 void EntryWidget::Replace(const QString& text) {
-  AboutToReplace();
+  Attached().SetFocus();
   selectAll();
   Insert(text);
-  Replaced();
+  // If the window is inactive, its coming activation would overwrite the text with the plan's
+  // value, so the text is read into the plan first.
+  if (isActiveWindow()) return;
+  Owner().OnFocusLost(Attached());
+  activateWindow();
 }
 
 void EntryWidget::PasteFrom(QClipboard::Mode mode) {
   Insert(QGuiApplication::clipboard()->text(mode));
 }
 
+void EntryWidget::focusInEvent(QFocusEvent* event) {
+  // The click that gives the focus selects the whole text; its release must not change that.
+  press_selected_all_ = event->reason() == Qt::MouseFocusReason;
+  FocusReporting::focusInEvent(event);
+}
+
+// QLineEdit's own menu asks for the clipboard's content, and its owner may not answer.
+void EntryWidget::contextMenuEvent(QContextMenuEvent* event) {
+  Owner().ShowEditMenu(event->globalPos());
+}
+
+bool EntryWidget::IsUsedByProgram(const QKeyEvent& event) const {
+  bool used = false;
+  const std::string key = KeyText(event);
+  if (key.empty() || !Field().KeyDown) return used;
+  Gate().EnterWithin([&] { used = Field().KeyDown(Field(), key); });
+  return used;
+}
+
 void EntryWidget::keyPressEvent(QKeyEvent* event) {
+  if (!IsUsedByProgram(*event) && !Owner().PressButtonFor(*event)) Enter(event);
+  // The program has been offered the key already, so it does not go on to the window.
+  event->accept();
+}
+
+void EntryWidget::Enter(QKeyEvent* event) {
   if (IsHeldCommand(*event)) return;
   if (IsDecimalKey(*event)) {
     QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), event->nativeScanCode(),

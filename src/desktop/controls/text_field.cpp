@@ -3,84 +3,15 @@
 #include <array>
 #include <utility>
 
-#include <QKeyEvent>
-#include <QStyle>
-#include <QStyleOptionFrame>
-
 #include "desktop/base/menu.h"
 #include "desktop/base/qt_text.h"
-#include "desktop/base/run_state.h"
-#include "desktop/controls/control_widget.h"
 #include "desktop/controls/entry_widget.h"
 #include "services/text.h"
 
 namespace fundlet {
 
-namespace {
-
-class FieldWidget : public FocusReporting<EntryWidget> {
- public:
-  void SetCueText(std::string_view text) { setPlaceholderText(ToQt(text)); }
-  void SetPassword(bool password) { setEchoMode(password ? Password : Normal); }
-
-  // The width in which a text and the caret after it are visible as a whole.
-  int WidthForText() const {
-    QStyleOptionFrame option;
-    initStyleOption(&option);
-    const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
-    const QMargins margins = textMargins();
-    constexpr int kOwnMargins = 4;
-    constexpr int kCaret = 1;
-    return contents.width() - margins.left() - margins.right() - kOwnMargins - kCaret;
-  }
-
- protected:
-  void focusInEvent(QFocusEvent* event) override {
-    // The click that gives the focus selects the whole text; its release must not change that.
-    press_selected_all_ = event->reason() == Qt::MouseFocusReason;
-    FocusReporting::focusInEvent(event);
-  }
-  void AboutToReplace() override { Attached().SetFocus(); }
-  // If the window is inactive, its coming activation would overwrite the text with the plan's
-  // value, so the text is read into the plan first.
-  void Replaced() override {
-    if (isActiveWindow()) return;
-    Owner().OnFocusLost(Attached());
-    activateWindow();
-  }
-  // QLineEdit's own menu asks for the clipboard's content, and its owner may not answer.
-  void contextMenuEvent(QContextMenuEvent* event) override {
-    Owner().ShowEditMenu(event->globalPos());
-  }
-  void keyPressEvent(QKeyEvent* event) override {
-    const bool used = ProgramUses(*event) || Owner().PressButtonFor(*event);
-    if (!used) FocusReporting::keyPressEvent(event);
-    // The program has been offered the key already, so it does not go on to the window.
-    event->accept();
-  }
-
- private:
-  bool ProgramUses(const QKeyEvent& event) {
-    bool used = false;
-    const std::string key = KeyText(event);
-    auto& field = static_cast<TextField&>(Attached());
-    if (key.empty() || !field.KeyDown) return used;
-    Gate().EnterWithin([&] { used = field.KeyDown(field, key); });
-    return used;
-  }
-};
-
-}  // namespace
-
-TextField::TextField(ControlOwner& owner) : TextControl(owner, new FieldWidget) {
-  auto& field = NativeAs<FieldWidget>();
-  field.AttachTo(*this);
-  field.FilterInsertion = [this, &field](const QString& outcome) -> std::optional<QString> {
-    if (!Pasting) return outcome;
-    std::optional<std::string> entry;
-    Gate().EnterWithin([&] { entry = Pasting(FromQt(outcome), field.Limit()); });
-    return entry ? std::optional(ToQt(*entry)) : std::nullopt;
-  };
+TextField::TextField(ControlOwner& owner) : TextControl(owner, new EntryWidget) {
+  NativeAs<EntryWidget>().AttachTo(*this);
 }
 
 std::string TextField::Text() const { return FromQt(NativeAs<QLineEdit>().text()); }
@@ -132,7 +63,7 @@ std::int64_t TextField::SelLength() const {
   return CharactersOf(selected, static_cast<int>(selected.size()));
 }
 
-int TextField::WidthForText() const { return NativeAs<FieldWidget>().WidthForText(); }
+int TextField::WidthForText() const { return NativeAs<EntryWidget>().WidthForText(); }
 
 void TextField::FireGotFocus() {
   if (const auto selection = std::exchange(waiting_selection_, std::nullopt)) Select(*selection);
@@ -178,7 +109,7 @@ PropertyTable TextField::Properties() const {
                  {"ReadOnly", false, kThroughWidget<&QLineEdit::setReadOnly>},
                  {"Mask", ""},
                  {"Text", "", kThrough<&TextField::SetText>},
-                 {"CueText", "", kThroughWidget<&FieldWidget::SetCueText>},
+                 {"CueText", "", kThroughWidget<&EntryWidget::SetCueText>},
              }),
              kFontRows,
              std::to_array<PropertyRow>({
@@ -190,7 +121,7 @@ PropertyTable TextField::Properties() const {
                  {"BackColor", kWhite, &SetColour<QPalette::Base>},
                  {"TextColor", kBlack, &SetColour<QPalette::Text>},
                  {"UseFocusRing", true, kThrough<&Control::SetUseFocusRing>},
-                 {"Password", false, kThroughWidget<&FieldWidget::SetPassword>},
+                 {"Password", false, kThroughWidget<&EntryWidget::SetPassword>},
                  {"Border", true, kThroughWidget<&QLineEdit::setFrame>},
                  {"TabStop", true},
              }),
