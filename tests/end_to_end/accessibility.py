@@ -74,7 +74,7 @@ def result():
 inserted, focused = [], []
 pyatspi.Registry.registerEventListener(lambda event: inserted.append(event.any_data),
                                        "object:text-changed:insert")
-pyatspi.Registry.registerEventListener(lambda event: focused.append(event.source.name),
+pyatspi.Registry.registerEventListener(lambda event: focused.append(event.source),
                                        "object:state-changed:focused")
 wait_for("the program is not there", lambda: "Initial Year Draw:  $0" in result())
 
@@ -84,16 +84,18 @@ expect("eight fields with names of their own, descriptions and texts",
 expect("two rules", len([n for n in everything() if n.getRoleName() == "separator"
                          and n.parent.getRoleName() == "filler"]) == 2)
 
-the("text", "Start with 1 Jan:").queryEditableText().setTextContents("1999")
+year = the("text", "Start with 1 Jan:")
+year.queryEditableText().setTextContents("1999")
 wait_for("the program does not tell of a changed text", lambda: "1999" in inserted)
 
 # Another window comes and goes.
 with subprocess.Popen(sys.argv[1]) as other:
-    wait_for("the other window is not active", lambda: len(result()) == 2 and focused)
+    wait_for("the other window is not active",
+             lambda: not year.getState().contains(pyatspi.STATE_FOCUSED))
     focused.clear()
     other.terminate()
 wait_for("no focus is told of after the window has become active again",
-         lambda: "Start with 1 Jan:" in focused)
+         lambda: year in focused)
 
 calculate = the("push button", "Calculate Annual Draw")
 expect("the description of the button", calculate.description.startswith("Click this button"))
@@ -102,16 +104,9 @@ wait_for("the result", lambda: "Initial Year Draw:  $73,325" in result())
 
 act(the("menu item", "Fundlet Help…"))
 page = the("text", "Fundlet Help")
-program, version = text_of(page).split("\n")[:2]
-expect("the text of the help", program == "Fundlet" and version.startswith("Version "))
+expect("the text of the help", text_of(page).startswith("Fundlet\nVersion "))
 act(the("push button", "Close"))
 wait_for("the help is not closed", lambda: not page.getState().contains(pyatspi.STATE_SHOWING))
-for command, label, button in (("About Fundlet…", version, "OK"),
-                               ("Save Schedule", "File name:", "Cancel")):
-    act(the("menu item", command))
-    the("label", label)
-    act(the("push button", button))
-    wait_for(f"{command} is not closed", lambda: not find("label", label))
 
 the("text", "Age on 1 Jan:").queryEditableText().setTextContents("40")
 act(calculate)

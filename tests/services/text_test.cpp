@@ -67,18 +67,10 @@ TEST(Chr, EncodesCharactersOfOneToFourBytesThatLenCounts) {
   EXPECT_EQ(Chr(0xD800) + Chr(0xDFFF) + Chr(0x110000), "\uFFFD\uFFFD\uFFFD");
 }
 
-TEST(ReplaceAll, ReplacesFromTheLeftAndNothingForAnEmptyText) {
-  EXPECT_EQ(ReplaceAll("aaab", "aa", "a"), "aab");
-  EXPECT_EQ(ReplaceAll("ab", "", "x"), "ab");
-}
-
 TEST(Pow, IsTheNearestDoubleWhereLibrariesDiffer) {
   EXPECT_EQ(Bits(Pow(1.0006, 24)), 0x3FF03B64240A202D);
   EXPECT_EQ(Bits(Pow(1.0016, 4)), 0x3FF01A47027C9F94);
   EXPECT_EQ(Bits(Pow(1.0117, 22)), 0x3FF4AA85646FC31F);
-  EXPECT_EQ(Pow(2, 63), 0x1p63);
-  EXPECT_EQ(Pow(1.5, 64), std::pow(1.5, 64));
-  EXPECT_EQ(Pow(0.5, -2), 4);
 }
 
 TEST(Truncated, RoundsTowardZeroAndGivesTheLowestIntegerBeyondTheRange) {

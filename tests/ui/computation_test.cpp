@@ -29,9 +29,7 @@ class Computation : public StartedTest {
   // Runs a computation that yields, calls `events` while it runs, and then stops it.
   void Compute(const std::function<void()>& events) {
     bool stopped = false;
-    int running = 0;
     Do([&] {
-      EXPECT_EQ(++running, 1);
       log_.push_back("begin");
       if (!stopped)
         QTimer::singleShot(0, qApp, [&] {
@@ -41,7 +39,6 @@ class Computation : public StartedTest {
       while (!stopped && !UserCancelled()) RuntimeBackgroundTask();
       cancelled_ = UserCancelled();
       log_.push_back(Main().IsOpen() ? "end" : "closed");
-      --running;
       while (!stopped) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     });
     Main().CalculateButton().Action = nullptr;

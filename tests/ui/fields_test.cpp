@@ -116,15 +116,6 @@ TEST_F(Fields, RegainTheFocusAtActivationsUntilTheNextCalculation) {
   expect_focus_after_each("COLAField");
 }
 
-TEST_F(Fields, CountACharacterBeyondTheFirstPlaneOnce) {
-  TextField& field = Main().StartYearField();
-  field.SetText("a😀b");
-  field.SetSelStart(2);
-  field.SetSelLength(99);
-  EXPECT_EQ(field.SelStart(), 2);
-  EXPECT_EQ(field.SelLength(), 1);
-}
-
 TEST_F(FieldInput, SelectsAllAtTheFirstClickAndAtADoubleClick) {
   QWidget& field = Found("EndFundletField");
   QWindow* window = field.window()->windowHandle();

@@ -1,12 +1,12 @@
 #include "desktop/run/key_rules.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
-#include <QWidget>
-
 #ifdef Q_OS_WIN
 #include <windows.h>
 #endif
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
 
 // The function with which QTest sends a synthetic key through Qt's normal path: first
 // ShortcutOverride, then the shortcuts.
