@@ -19,6 +19,12 @@ bool ChangesNothing(const QAccessibleEvent& event) {
   return update.textRemoved() == update.textInserted();
 }
 
+bool BecomesActive(const QAccessibleEvent& event) {
+  if (!static_cast<const QAccessibleStateChangeEvent&>(event).changedStates().active) return false;
+  const QAccessibleInterface* window = event.accessibleInterface();
+  return window != nullptr && window->state().active;
+}
+
 }  // namespace
 
 ScreenReaderNotifier::ScreenReaderNotifier() {
@@ -48,8 +54,9 @@ bool ScreenReaderNotifier::HoldsBack(const QAccessibleEvent& event) {
       return false;
     case QAccessible::StateChanged:
       // After a window becomes active, a screen reader expects a focus event, which is sent again
-      // if it has been sent before.
-      if (static_cast<const QAccessibleStateChangeEvent&>(event).changedStates().active) {
+      // if it has been sent before. Only then: Orca skips a focus event when a newer one has come,
+      // and the caret event between the two moves Orca's focus silently.
+      if (BecomesActive(event)) {
         known_ = {};
         NotifyFocusLater();
       }
