@@ -17,6 +17,9 @@ Id objc_msgSend(Id receiver, Selector message);
 // The function of that name in the library; null if it is not found.
 void* LoadFunctionPointerFromLibrary(const char* function, const char* library);
 
+// The part of LoadFunctionPointerFromLibrary that differs between platforms.
+void* FindFunction(const char* function, const char* library);
+
 // Raises the RuntimeException for a function that was not found.
 [[noreturn]] void RuntimeRaiseFunctionNotFoundException(const char* function, const char* library);
 
