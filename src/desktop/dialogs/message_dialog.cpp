@@ -24,11 +24,12 @@ constexpr QChar kBreak = u'\u200B';     // zero width space
 constexpr int kPictureSize = 64;
 constexpr int kAboutWidth = 160;  // of the text, so that the title can be read
 
-// Puts a break after each 40 characters, which may have marks (\X), without a blank or a slash:
-// QLabel breaks lines only at those, and would cut off a file name wider than the message.
+// Puts a break after each backslash, and after 40 characters, which may have marks (\X), without a
+// blank or a slash: QLabel breaks lines only at those, and would cut off a file name wider than the
+// message.
 QString WithBreaks(QString text) {
-  static const QRegularExpression long_part(R"(((?:(?![\s/])\X){40})(?=[^\s/]))");
-  return text.replace(long_part, R"(\1)" + QString(kBreak));
+  static const QRegularExpression part(R"((\\|(?:(?![\s/\\])\X){40}(?=[^\s/\\])))");
+  return text.replace(part, R"(\1)" + QString(kBreak));
 }
 
 }  // namespace
