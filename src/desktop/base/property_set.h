@@ -102,10 +102,13 @@ inline constexpr auto kThrough = [](PropertyTarget& target, const PropertyValue&
   }(Method);
 };
 
+template <typename Class, typename Value>
+using DataMember = Value Class::*;
+
 // The setter of a row that stores the value in this data member.
 template <auto Member>
 inline constexpr auto kInto = [](PropertyTarget& target, const PropertyValue& value) {
-  [&]<typename Class, typename Value>(Value Class::*member) {
+  [&]<typename Class, typename Value>(DataMember<Class, Value> member) {
     static_cast<Class&>(target).*member = std::get<Value>(value);
   }(Member);
 };

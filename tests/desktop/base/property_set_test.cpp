@@ -34,6 +34,7 @@ TEST_F(PropertySet, ErrorNamesObjectAndPropertyAndKeepsEarlierEntries) {
     return [&, bytes] { sign._SetProperties(bytes); };
   };
   const Property caption{"Caption", "x"};
+  const auto encode = [&] { EncodePropertySet(sign.Properties(), {&caption, 1}); };
   const std::pair<std::function<void()>, const char*> errors[] = {
       {set("MenuBarVisible \x01"),
        "control “Sign”, property “MenuBarVisible”: there is no such property"},
@@ -43,10 +44,7 @@ TEST_F(PropertySet, ErrorNamesObjectAndPropertyAndKeepsEarlierEntries) {
       {set("Text \x02\0\0\0okText"s), "control “Sign”, property “”: a name without a value"},
       {[&] { window_->_SetProperties("TabIndex x"); },
        "window “Title”, property “TabIndex”: there is no such property"},
-      {[&] {
-         EncodePropertySet(sign.Properties(), {&caption, 1});
-       },
-       "no place for the property “Caption”"},
+      {encode, "no place for the property “Caption”"},
   };
   for (const auto& [action, error] : errors) EXPECT_EQ(ErrorOf(action), error);
   EXPECT_EQ(sign.Text(), "ok");
