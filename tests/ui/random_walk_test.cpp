@@ -26,8 +26,9 @@ class RandomWalk : public StartedTest {
       AnswerAnyDialog();
       const bool saves =
           dialog.windowTitle() == "Save" && qobject_cast<QMessageBox*>(&dialog) == nullptr;
-      const Answer answers[] = {ByKey(Qt::Key_Escape), ByCloseBox(),
-                                saves ? BySaving(folder_.Path() / "plan") : ByCloseBox()};
+      const Answer answers[] = {
+          ByKey(Qt::Key_Escape), ByCloseBox(),
+          saves ? BySaving((folder_.Path() / "plan").string()) : ByCloseBox()};
       OneOf(answers)(dialog);
     });
   }

@@ -87,7 +87,7 @@ struct Runtime::Parts {
 Runtime::Runtime(std::string program) : parts_(std::make_unique<Parts>(std::move(program))) {}
 
 Runtime::~Runtime() {
-  Gate().Shut();
+  parts_->state.gate.Shut();
   parts_->state.DestroyEntries();
 }
 
