@@ -40,6 +40,7 @@ void TypeIn(aFundletWindow& window, const Plan& plan) {
   window.EndFundletField().SetText(Format(plan.EndFundlet, "###,###,##0"));
 }
 
+// The baseline: the arithmetic alone, without a window.
 void Bare(benchmark::State& state) {
   BareSolve solve;
   for (auto _ : state) solve.Run(TheLongPlan());

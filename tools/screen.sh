@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# To be sourced. Opens a virtual screen with a window manager, and presses its keys and buttons.
+# To be sourced. Opens a virtual screen with a window manager, and types and clicks on it.
 . "$(dirname "${BASH_SOURCE[0]}")/install.sh"
 
 # Ends a test that cannot run on this machine, with the status by which ctest knows it as skipped.
@@ -8,6 +8,7 @@ skip() {
   exit 77
 }
 
+# need COMMAND...: skips the test unless all commands are installed.
 need() {
   local command
   for command in "$@"; do
@@ -18,7 +19,8 @@ need() {
 screen_folder=
 screen_processes=()
 
-# Runs a command again and again until it succeeds, for so many seconds at most.
+# wait_for SECONDS COMMAND...: runs the command again and again until it succeeds; fails if it has not
+# after about that many seconds.
 wait_for() {
   local tries=$(($1 * 20))
   shift
@@ -62,8 +64,8 @@ open_bus() {
   export DBUS_SESSION_BUS_ADDRESS=unix:path=${bus// /%20}
 }
 
-# open_wayland SIZE: opens such a screen with a Wayland desktop on it, on which programs draw the frames
-# of their windows themselves.
+# open_wayland SIZE: does what open_screen does, and opens a Wayland desktop on the screen, on which
+# programs draw the frames of their windows themselves.
 open_wayland() {
   open_screen "$1"
   printf '%s\n' '[shell]' panel-position=none close-animation=none startup-animation=none \
@@ -73,15 +75,15 @@ open_wayland() {
   screen_processes+=($!)
   export WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland
   wait_for 20 weston-debug scene-graph || fail 'the Wayland desktop did not open'
-  # weston adds up the pointer's movements; from a corner on, its pointer is where the screen's is.
+  # weston adds up the pointer's movements. After one into a corner, both pointers are in one place.
   xdotool mousemove 4000 4000 sleep 0.5 mousemove 0 0 sleep 0.5
 }
 
-# Opens such a screen for programs of Windows, which wine runs: with a user of its own, who has
-# nothing yet. Sets windows_home, that user's folder.
+# open_windows SIZE: does what open_screen does, and starts wine, to run programs of Windows, with an
+# empty drive. Sets windows_home to the user's folder on it.
 open_windows() {
   open_screen "$1"
-  # Neither menu entries in this machine's desktop nor offers to download what wine has not brought.
+  # Keeps wine from adding menu entries to this machine, and from offering to download what it lacks.
   export WINEDLLOVERRIDES='winemenubuilder.exe,mscoree,mshtml=' WINEDEBUG=-all
   export WINEPREFIX=$screen_folder/wine
   mkdir "$WINEPREFIX"
@@ -91,12 +93,12 @@ open_windows() {
   windows_home=$WINEPREFIX/drive_c/users/$(id -un)
 }
 
-# A file of this machine as programs of Windows name it.
+# windows_path FILE: prints the name by which programs of Windows know a file of this machine.
 windows_path() { tr / '\\' <<<"Z:$1"; }
 
 on_wayland() { [ -n "${WAYLAND_DISPLAY:-}" ]; }
 
-# The windows on the Wayland desktop, the front one first: WINDOW PROCESS X Y RIGHT BOTTOM TITLE.
+# Prints the windows on the Wayland desktop, the front one first: WINDOW PROCESS X Y RIGHT BOTTOM TITLE.
 wayland_windows() {
   weston-debug scene-graph | sed -nE "/role xdg_toplevel/ { N
     s/.*PID ([0-9]+), surface ID ([0-9]+)[^']*'(.*)'.*: \((-?[0-9]+), (-?[0-9]+)\) -> \((-?[0-9]+), (-?[0-9]+)\).*/\2 \1 \4 \5 \6 \7 \3/p }"
@@ -105,7 +107,7 @@ wayland_windows() {
 # Ends all processes of the screen, the last first, and removes its folder.
 close_screen() {
   local i
-  # The programs of Windows would stay if wineserver went before them.
+  # This also ends the programs of Windows; kill on wineserver's process would leave them behind.
   [ ! -d "$screen_folder/wine" ] || wineserver --kill || true
   for ((i = ${#screen_processes[@]} - 1; i >= 0; i--)); do
     kill "${screen_processes[i]}" 2>/dev/null || true
@@ -115,7 +117,7 @@ close_screen() {
   [ -z "$screen_folder" ] || rm -rf "$screen_folder"
 }
 
-# The window that has the keyboard focus, and its process.
+# Print the window that has the keyboard focus, and its process.
 active_window() {
   if on_wayland; then wayland_windows | awk '{ print $1; exit }'; else xdotool getactivewindow 2>/dev/null; fi
 }
@@ -135,7 +137,8 @@ window_title() {
   fi
 }
 
-# The place and size of a window: X Y WIDTH HEIGHT; under X the place is always 0 0.
+# window_place WINDOW: prints X Y WIDTH HEIGHT; under X the place is 0 0, because there click_in and
+# window_picture count from the window's corner.
 window_place() {
   if on_wayland; then
     wayland_windows | awk -v window="$1" '$1 == window { print $3, $4, $5 - $3, $6 - $4 }'

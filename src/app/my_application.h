@@ -18,7 +18,7 @@ class MyApplication : public Application {
 };
 
 // Runs the program and returns its exit status. `program` is the name by which the process was
-// started.
+// started; it must not be null.
 int RunFundlet(const char* program);
 
 }  // namespace fundlet

@@ -2,7 +2,7 @@
 
 namespace fundlet {
 
-// A moment in the local time zone: that of its creation.
+// The moment of the object's creation, in the local time zone.
 class Date {
  public:
   Date();

@@ -19,7 +19,7 @@ for size in 16 32 64 128 256; do
   [ "$(identify -format %wx%h "$share/icons/hicolor/${size}x$size/apps/fundlet.png")" = \
     "${size}x$size" ] || fail "the icon of $size by $size is not there"
 done
-# Newer releases of AppStream miss a home page, which the program does not have.
+# Newer releases of AppStream report that the home page is missing; the program has none.
 validate_metainfo() {
   local remarks
   remarks=$(appstreamcli validate --no-net --no-color "$1" 2>&1) ||

@@ -27,10 +27,12 @@ class Application {
 
 // The registered application object; NilObjectException if there is none.
 Application& App();
+// Registers the object, which must outlive the run; NilObjectException if there is no run.
 void RegisterApplication(Application& application);
 
 // Ends the event loop, and the process then ends with the given status. Handlers that wait in the
-// gate are dropped, and the windows that are open get no Event_Close.
+// gate are dropped, and the windows that are open get no Event_Close. NilObjectException if there
+// is no run.
 void Quit(int status);
 
 }  // namespace fundlet

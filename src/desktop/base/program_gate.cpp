@@ -28,8 +28,9 @@ std::string Reason(const std::exception_ptr& failure) {
 
 void ProgramGate::Report(const std::string& command, const std::exception_ptr& failure) noexcept {
   try {
-    const std::string lost = command.empty() ? "" : "“" + command + "” could not be carried out. ";
-    hooks_.report(lost + Reason(failure));
+    const std::string failed =
+        command.empty() ? "" : "“" + command + "” could not be carried out. ";
+    hooks_.report(failed + Reason(failure));
   } catch (...) {
     std::fputs("A failure of the program could not be shown.\n", stderr);
   }

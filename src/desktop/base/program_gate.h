@@ -21,7 +21,8 @@ class ProgramGate {
   // handler causes.
   void EnterWithin(const std::function<void()>& handler);
 
-  bool Busy() const { return depth_ > 0; }
+  bool Busy() const { return depth_ > 0; }  // whether a handler is running
+
   struct Hooks {
     std::function<void(const std::string& message)> report;  // shows a failure; may not be empty
     std::function<void()> entering;      // before each handler that no other handler causes

@@ -46,7 +46,7 @@ class RunState {
     return *made;
   }
 
-  // Destroys the entries, the latest first. To be called while Qt still runs.
+  // Destroys the entries, the latest first. To be called while the QApplication exists.
   void DestroyEntries() {
     while (!entries_.empty()) {
       const auto latest = std::move(entries_.back());
@@ -55,7 +55,7 @@ class RunState {
   }
 
   Application* application = nullptr;
-  std::optional<int> end_status;  // once the end has been asked for
+  std::optional<int> end_status;  // set by Quit
   ProgramGate gate;
 
  private:

@@ -23,8 +23,8 @@ constexpr auto kControlModifier = Qt::MetaModifier;
 constexpr auto kControlModifier = Qt::ControlModifier;
 #endif
 
-// Breaks lines at blanks, after at most 80 characters where there is a blank: QToolTip does not
-// wrap plain text, and wraps rich text at a width of its own.
+// Breaks the text at blanks into lines of at most 80 characters, if its words allow: QToolTip does
+// not wrap plain text, and wraps rich text at a width of its own.
 QString Wrapped(QString text) {
   static const QRegularExpression line("(.{0,80})(?: |\n|$)");
   return text.replace(line, "\\1\n").trimmed();
@@ -119,9 +119,9 @@ constexpr const char* kSystemFont = "System";
 // The font family of that name, or else the first of some similar ones that is installed.
 QString AvailableFamily(const std::string& family) {
   if (family == kSystemFont) return QGuiApplication::font().family();
-  for (const char* humanist : {family.c_str(), "Verdana", "DejaVu Sans", "Noto Sans", "Open Sans",
-                               "Lucida Grande", "Segoe UI", "Liberation Sans"}) {
-    if (QFontDatabase::hasFamily(humanist)) return humanist;
+  for (const char* candidate : {family.c_str(), "Verdana", "DejaVu Sans", "Noto Sans", "Open Sans",
+                                "Lucida Grande", "Segoe UI", "Liberation Sans"}) {
+    if (QFontDatabase::hasFamily(candidate)) return candidate;
   }
   return QGuiApplication::font().family();
 }

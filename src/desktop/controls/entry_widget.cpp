@@ -23,7 +23,7 @@ std::int64_t Length(const QString& text) {
 }
 
 // Whether QLineEdit enters the key's text. Some keyboards type with Control and Alt together.
-bool Types(const QKeyEvent& event) {
+bool EntersText(const QKeyEvent& event) {
   const auto modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
   return !event.text().isEmpty() && event.text().at(0) >= ' ' && event.text().at(0) != '\x7F' &&
          modifiers != Qt::ControlModifier;
@@ -44,7 +44,7 @@ bool IsDecimalKey(const QKeyEvent& event) {
 
 // An auto-repeat of a shortcut of the Edit menu. QLineEdit overrides these shortcuts and gets them
 // as keys; they act once.
-bool IsHeldCommand(const QKeyEvent& event) {
+bool IsCommandRepeat(const QKeyEvent& event) {
   const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
   const bool shortcut = letter && event.modifiers().testFlag(Qt::ControlModifier);
   return event.isAutoRepeat() && (shortcut || event.matches(QKeySequence::Paste));
@@ -72,7 +72,7 @@ int EntryWidget::WidthForText() const {
   initStyleOption(&option);
   const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
   const QMargins margins = textMargins();
-  constexpr int kOwnMargins = 4;
+  constexpr int kOwnMargins = 4;  // QLineEdit's, on both sides together
   constexpr int kCaret = 1;
   return contents.width() - margins.left() - margins.right() - kOwnMargins - kCaret;
 }
@@ -130,8 +130,8 @@ void EntryWidget::Replace(const QString& text) {
   Attached().SetFocus();
   selectAll();
   Insert(text);
-  // If the window is inactive, its coming activation would overwrite the text with the plan's
-  // value, so the text is read into the plan first.
+  // If the window is inactive, the program may rewrite the field at the coming activation, so
+  // LostFocus lets it read the text first.
   if (isActiveWindow()) return;
   Owner().OnFocusLost(Attached());
   activateWindow();
@@ -147,7 +147,8 @@ void EntryWidget::focusInEvent(QFocusEvent* event) {
   FocusReporting::focusInEvent(event);
 }
 
-// QLineEdit's own menu asks for the clipboard's content, and its owner may not answer.
+// QLineEdit's own menu asks for the clipboard's content, and the program that owns it may not
+// answer.
 void EntryWidget::contextMenuEvent(QContextMenuEvent* event) {
   Owner().ShowEditMenu(event->globalPos());
 }
@@ -167,7 +168,7 @@ void EntryWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void EntryWidget::Enter(QKeyEvent* event) {
-  if (IsHeldCommand(*event)) return;
+  if (IsCommandRepeat(*event)) return;
   if (IsDecimalKey(*event)) {
     QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), event->nativeScanCode(),
                     event->nativeVirtualKey(), event->nativeModifiers(), ".", event->isAutoRepeat(),
@@ -179,7 +180,7 @@ void EntryWidget::Enter(QKeyEvent* event) {
     const bool selection = event->key() == Qt::Key_Insert &&
                            event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
     PasteFrom(selection ? QClipboard::Selection : QClipboard::Clipboard);
-  } else if (Types(*event) && !HasRoomFor(event->text())) {
+  } else if (EntersText(*event) && !HasRoomFor(event->text())) {
     QApplication::beep();
   } else {
     QLineEdit::keyPressEvent(event);
@@ -198,7 +199,7 @@ void EntryWidget::inputMethodEvent(QInputMethodEvent* event) {
   if (!committed.isEmpty()) text_before_composition_ = text();
 }
 
-// QLineEdit deletes the selected text when a composition begins.
+// QLineEdit has deleted the selected text when the composition began; undo() restores it.
 void EntryWidget::RefuseComposition() {
   composed_.clear();
   QInputMethodEvent end;
@@ -238,7 +239,7 @@ void EntryWidget::mouseReleaseEvent(QMouseEvent* event) {
   }
 }
 
-// After QLineEdit's own double click, a third click would select the whole text.
+// QLineEdit selects a word at a double click, and the whole text only at a third click.
 void EntryWidget::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   QLineEdit::mouseDoubleClickEvent(event);

@@ -32,7 +32,7 @@ class EntryWidget : public FocusReporting<QLineEdit> {
   // Enters the text that an input method is composing, and text() does not contain yet.
   void CommitComposition();
 
-  // The width in which a text and the caret after it are visible as a whole.
+  // The width, in pixels, in which a text and the caret after it are visible as a whole.
   int WidthForText() const;
 
  protected:
@@ -64,7 +64,7 @@ class EntryWidget : public FocusReporting<QLineEdit> {
   bool press_selected_all_ = false;
   QString composed_;  // the text that an input method is composing
   QString text_before_composition_;
-  QString accepted_text_;         // the last text of the user or of the program
+  QString accepted_text_;         // the last text that the user or the program set
   bool change_accepted_ = false;  // while the user or the program changes the text
 };
 

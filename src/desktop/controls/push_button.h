@@ -21,6 +21,7 @@ class PushButton : public TextControl {
   // Presses the button as a click does; does nothing if it is disabled.
   void Press();
 
+  // The button has been pressed.
   std::function<void(PushButton&)> Action;
 
   PropertyTable Properties() const override;

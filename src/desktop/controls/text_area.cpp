@@ -42,7 +42,7 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    // Read-only text does not use Return and Escape.
+    // Return and Escape press the window's buttons, because read-only text does not use them.
     if (isReadOnly() && Owner().PressButtonFor(*event)) return;
     const int key = event->key();
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -59,7 +59,8 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
   }
 
  private:
-  // If the caret is out of sight, the keys move it from the first visible line.
+  // If the caret is out of sight, the keys that move it (Home to PageDown) start from the first
+  // visible line.
   void BringCaretIntoView() {
     if (!viewport()->rect().intersects(cursorRect())) PutCursor(cursorForPosition(QPoint(0, 0)));
   }

@@ -24,8 +24,8 @@ class TextField : public TextControl {
   // The field has gained or lost the focus.
   std::function<void(TextField&)> GotFocus;
   std::function<void(TextField&)> LostFocus;
-  // A key with a text (KeyText) is pressed. Called before the field acts on it; if it returns true,
-  // the field does not.
+  // A key with a text (KeyText) is pressed. Called before the field acts on it; if the handler
+  // returns true, the field ignores the key.
   std::function<bool(TextField&, const std::string& key)> KeyDown;
 
   // Text is being pasted or dropped. Gets the text that would result and the limit in characters;
@@ -46,7 +46,7 @@ class TextField : public TextControl {
   int WidthForText() const override;
 
  private:
-  // A selection that is made while the field does not have the focus; set when it gains the focus.
+  // A selection that is set while the field does not have the focus; made when it gains the focus.
   struct Selection {
     std::int64_t start;
     std::int64_t length;
@@ -57,7 +57,7 @@ class TextField : public TextControl {
   bool IsBeyondLimit() const;
 
   std::optional<Selection> waiting_selection_;
-  std::string longest_text_;  // the longest text of the program that is within the limit
+  std::string longest_text_;  // the longest within the limit that SetText has set
 };
 
 }  // namespace fundlet

@@ -5,13 +5,13 @@
 namespace fundlet {
 
 // A box with a plain text, titled with the program's name. A word that is too long for a line is
-// broken. A text too high for the screen loses its middle, and is shown whole in a field that
-// scrolls.
+// broken. If the text makes the box too high for the screen, the text loses its middle, and a field
+// below it that scrolls shows the whole text.
 class MessageBox : public QMessageBox {
  public:
   MessageBox(QWidget* parent, Icon icon, const QString& text);
 
-  // Adds the only button: Return, Escape and the close box press it, too.
+  // Adds the only button: Return, Escape and the close box press it too.
   void AddOnlyButton(const QString& caption = "OK");
 
  protected:

@@ -18,11 +18,11 @@ namespace fundlet {
 
 namespace {
 
-constexpr int kFieldLines = 4;          // of the field with the whole text
-constexpr qsizetype kShortestEnd = 40;  // characters that are shown of each end of a text
+constexpr int kFieldLines = 4;          // the height of the field with the whole text
+constexpr qsizetype kShortestEnd = 40;  // each end of a shortened text has more characters
 constexpr QChar kBreak = u'\u200B';     // zero width space
-constexpr int kPictureSize = 64;
-constexpr int kAboutWidth = 160;  // of the text, so that the title can be read
+constexpr int kPictureSize = 64;        // pixels
+constexpr int kAboutWidth = 160;  // pixels, the least width of the text, so that the title fits
 
 // Puts a break after each backslash, and after 40 characters, which may have marks (\X), without a
 // blank or a slash: QLabel breaks lines only at those, and would cut off a file name wider than the
@@ -48,7 +48,8 @@ void MessageBox::AddOnlyButton(const QString& caption) {
   setEscapeButton(button);
 }
 
-// QMessageBox sets its size when it is shown, and then whenever its text changes.
+// The height is known only here, because QMessageBox sets its size in its own showEvent(), and then
+// in each setText().
 void MessageBox::showEvent(QShowEvent* event) {
   QMessageBox::showEvent(event);
   const int highest = BlockingDialog::LargestSize(*this).height();

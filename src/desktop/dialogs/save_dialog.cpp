@@ -63,10 +63,10 @@ QString FaultOf(fs::file_type type) {
 }
 
 // Reads a text, relative to the absolute path of the folder shown. "~" and "~/" are the user's
-// home folder; ".." is the folder above as the path shows it, also where a folder is a link. Blanks
-// and quotation marks belong to the name. A file need not exist, but its folder must, unless the
-// system cannot tell: writing the file then fails with the reason. A folder is another one than
-// that shown; a link to a folder is a folder.
+// home folder; ".." removes the last folder from the path, even if that is a link. Blanks and
+// quotation marks belong to the name. A file need not exist, but its folder must, unless the system
+// cannot tell: writing the file then fails with the reason. The folder shown is refused, because it
+// names no file; a link to a folder is a folder.
 TypedPath ReadTypedPath(const QString& text, const QString& shown_folder) {
   const bool at_home = text == "~" || text.startsWith("~/");
   const QString typed = at_home ? QDir::homePath() + text.mid(1) : text;
@@ -101,8 +101,8 @@ class SaveWidget : public QFileDialog {
   QString Path() const { return UsesQtsDialog() ? path_ : selectedFiles().value(0); }
 
  protected:
-  // QFileDialog looks the name up in a list that may not be complete yet, and may so choose another
-  // file.
+  // QFileDialog::accept() looks the name up in a list that may not be complete yet, so it might
+  // choose another file.
   void accept() override {
     if (!UsesQtsDialog()) {
       QFileDialog::accept();
@@ -146,7 +146,8 @@ class SaveWidget : public QFileDialog {
   }
   bool UsesQtsDialog() const { return testOption(DontUseNativeDialog); }
 
-  // The folder selected in the list when Save is clicked, which then says Open; empty for none.
+  // The folder that is selected in the list; empty for none, and while the name field has the
+  // focus. With a selected folder, Qt labels the Save button Open.
   QString FolderInList() const {
     if (name_->hasFocus()) return {};
     const QModelIndex selected = list_->selectionModel()->selectedRows().value(0);

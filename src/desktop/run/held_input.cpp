@@ -19,10 +19,11 @@ namespace fundlet {
 
 namespace {
 
-// How often a computation lets Qt deliver events: so many yields take some milliseconds.
+// The number of yields after which a computation lets Qt deliver events; they take some
+// milliseconds.
 constexpr int kYieldsPerTick = 500'000;
 
-// How long a click waits for the activation of its window, which the desktop may refuse.
+// How long a click waits for the activation of its window, which the compositor may refuse.
 constexpr int kActivationTimeoutMs = 200;
 
 bool IsTouch(const QEvent& event) {
@@ -40,7 +41,7 @@ bool IsUserInput(const QEvent& event) {
          type == QEvent::Close;
 }
 
-bool IsHeldShortcut(const QEvent& event) {
+bool IsShortcutRepeat(const QEvent& event) {
   const QKeyEvent* key = KeyOf(event);
   return key != nullptr && key->isAutoRepeat() && key->modifiers().testFlag(Qt::ControlModifier);
 }
@@ -147,9 +148,9 @@ bool HeldInput::eventFilter(QObject* object, QEvent* event) {
 
 void HeldInput::Hold(QObject* object, QEvent* event) {
   event->setAccepted(event->type() != QEvent::Close);
-  // Not queued: ShortcutOverride, which ReplayNext sends itself, and repeats of a shortcut, which
-  // acts once.
-  if (event->type() != QEvent::ShortcutOverride && !IsHeldShortcut(*event)) {
+  // Not queued: ShortcutOverride, which ReplayNext sends again (ChoosesShortcut), and repeats of a
+  // shortcut, which acts once.
+  if (event->type() != QEvent::ShortcutOverride && !IsShortcutRepeat(*event)) {
     held_.push_back({object, std::unique_ptr<QEvent>(event->clone())});
   }
 }

@@ -47,7 +47,7 @@ class HeldInput : public QObject {
 
   std::deque<Held> held_;
   QTimer activation_timer_;  // runs while a held click waits for the activation of its window
-  std::pair<quint32, quint64> last_release_;  // scan code and time stamp
+  std::pair<quint32, quint64> last_release_;  // of a key: scan code and time stamp
   bool pumping_ = false;
   bool replaying_ = false;
   bool replay_scheduled_ = false;

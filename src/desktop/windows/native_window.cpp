@@ -23,7 +23,7 @@ namespace fundlet {
 namespace {
 
 constexpr int kRingWidth = 2;
-constexpr int kRingMargin = 2 * kRingWidth;  // the ring, and some of the ground
+constexpr int kRingMargin = 2 * kRingWidth;  // the ring, and some background
 
 // The content area. It draws the ring round the control that has the focus, in the gap that the
 // layout leaves between the controls.
@@ -126,7 +126,8 @@ void NativeWindow::ShowMenus() {
 
 void NativeWindow::ShowFirst() {
   show();
-  // Adding the frame resizes the window; the content keeps its size.
+  // The frame resizes the central widget. While resizeable_ is false, eventFilter does not resize
+  // the content with it.
   const bool resizeable = std::exchange(resizeable_, false);
   accepts_any_size_ = OwnFrame::AddTo(*this);
   resizeable_ = resizeable;
@@ -165,7 +166,7 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
 
 bool NativeWindow::eventFilter(QObject* object, QEvent* event) {
   const bool resized = object == centralWidget() && event->type() == QEvent::Resize && isVisible();
-  // The first show resizes the central widget from no size to the content's.
+  // The first show gives the central widget the content's size, which changes nothing.
   if (resized && resizeable_ && centralWidget()->size() != ContentSize()) {
     content_->resize(centralWidget()->size());
     window_.Resized();

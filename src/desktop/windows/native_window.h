@@ -14,7 +14,7 @@ class Window;
 
 // The Qt window of a Window. Its central widget holds the content area. If the desktop environment
 // gives the window another size than that of its content, the content stands at the top left on a
-// ground of its colour; in a smaller window it is shifted so that the control with the focus is
+// background of its colour; in a smaller window it is shifted so that the control with the focus is
 // seen.
 class NativeWindow : public QMainWindow {
  public:
@@ -55,7 +55,8 @@ class NativeWindow : public QMainWindow {
   // Draws the ring anew, and moves the content just far enough that the control with the focus is
   // visible.
   void ShowFocus();
-  // Makes the window the active one, which its Window hears of on every platform.
+  // Makes the window the active one, and calls Window::Activated, because not every platform
+  // plug-in sends WindowActivate.
   void Activate();
 
  protected:

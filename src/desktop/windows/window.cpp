@@ -56,7 +56,7 @@ PropertyTable Window::Properties() const {
       {"Composite", false},
       {"MacProcID", 0},
       {"Placement", 0, kThrough<&Window::SetPlacement>},
-      {"Visible", true},  // a window shows when Show is called
+      {"Visible", true},  // Show makes a window visible
       {"LiveResize", true},
       {"FullScreen", false},
       {"HasBackColor", true, kThroughNative<&NativeWindow::SetHasBackColor>},
@@ -68,7 +68,7 @@ PropertyTable Window::Properties() const {
 
 std::string Window::Described() const { return "window “" + FromQt(native_->windowTitle()) + "”"; }
 
-// Find, because a window may outlive the run and so the order of its windows.
+// Find, because VisibleWindows would fail if the window outlives the run.
 Window::~Window() {
   open_ = false;
   if (auto* order = RunState::Find<WindowOrder>()) std::erase(*order, this);
@@ -160,7 +160,7 @@ void Window::FirstShow() {
 // Puts the window in the middle of the primary screen's usable area, and makes it lower if that is
 // too low.
 void Window::Centre() {
-  constexpr int kTitleBar = 30;  // pixels; the desktop environments have lower ones
+  constexpr int kTitleBar = 30;  // pixels; no desktop environment has a higher one
   const Screen screen(0);
   const int menus = native_->height() - Height();
   const int most = std::max(screen.AvailableHeight - kTitleBar - menus, native_->MinHeight());
@@ -172,7 +172,7 @@ void Window::Centre() {
   SetTop(screen.AvailableTop + std::max(kTitleBar, (screen.AvailableHeight - Height()) / 2));
 }
 
-// Tab goes through the controls by rising TabIndex; controls with equal ones keep the order in
+// Tab goes through the controls by rising TabIndex; controls with the same index keep the order in
 // which they were added.
 Control* Window::ApplyTabOrder() {
   std::vector<Control*> order;
@@ -293,7 +293,8 @@ Control* Window::EditTarget(EditCommand command) const {
 }
 
 void Window::UpdateMenuItems() {
-  // While a message is open, a field may still show a value that the handler beneath has replaced.
+  // While a message is open, a field may still show a value that the handler beneath has replaced,
+  // and Event_EnableMenuItems may read the fields.
   if (BlockingDialog::IsOpen()) return;
   Gate().EnterWithin([this] {
     MenuBar().ForEach([this](MenuItem& item) {
