@@ -7,7 +7,7 @@
 namespace fundlet {
 
 // What the plan needs of the main window: the eight fields with their texts, the line of the
-// result, and the alert. Texts are UTF-8. No field given is None.
+// result, and the alert. Texts are UTF-8. `field` is never None.
 class EntryForm {
  public:
   virtual ~EntryForm() = default;

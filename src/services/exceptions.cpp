@@ -46,7 +46,7 @@ constexpr Reason kReasons[] = {
     {EINVAL, "its name is not allowed here"},
 };
 
-// By action, in the order of their declaration.
+// One for each FileAction, in the order of their declaration.
 constexpr std::string_view kActionTexts[] = {"opened", "created", "read", "written",
                                              "written to the end"};
 

@@ -61,8 +61,9 @@ QAction* MenuView::AddAction(QMenu& menu, MenuItem& item) {
   const auto choose = [this, &item] { window_.Choose(item); };
   QAction* action = menu.addAction(Escaped(item.Text), &menu, choose);
   action->setObjectName(ToQt(item.Name));
-  // Qt does not fire the shortcut of a disabled QAction, and the item is enabled or disabled only
-  // when it is chosen. So the action only shows the shortcut, and a QShortcut fires.
+  // Qt does not fire the shortcut of a disabled QAction, and the item may have become available
+  // since the last menu update; Window::Choose runs another. So the action only shows the
+  // shortcut, and a QShortcut fires.
   action->setShortcut(Shortcut(item));
   action->setShortcutContext(Qt::WidgetShortcut);
   if (!action->shortcut().isEmpty()) {
