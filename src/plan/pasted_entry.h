@@ -11,7 +11,7 @@ namespace fundlet {
 
 // The entry for a field after a paste or a drop, where `text` is the whole text that the field
 // would then have. The entry is at most `limit` characters long, and the field reads it as exactly
-// the number that the text says.
+// the number that the text denotes.
 //
 // Removed are blanks at both ends, a plus sign, decimals that are all zero, the blanks or
 // apostrophes between groups of three digits and, if the entry is too long otherwise, the commas

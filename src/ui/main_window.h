@@ -173,7 +173,7 @@ class aFundletWindow : public Window, private EntryForm {
   template <typename ItemClass>
   ItemClass& Item(const char* name) const;
   void PlaceOnScreen();
-  // Sets the life expectancy by the life table, shows it and moves the focus to it. False.
+  // Sets the life expectancy by the life table, shows it and moves the focus to it. Returns False.
   bool FillInLifeExpectancy(double fraction);
 
   void GotFocus(FocusCode field) { EnterField(plan_, field, *this); }
