@@ -26,11 +26,6 @@ def wait_for(what, found):
     sys.exit(f"accessibility: {what}")
 
 
-def expect(what, condition):
-    if not condition:
-        sys.exit(f"accessibility: {what}")
-
-
 def tree(node):
     yield node
     for child in node:
@@ -59,7 +54,7 @@ def text_of(node):
 def act(node):
     actions = node.queryAction()
     names = [actions.getName(i) for i in range(actions.nActions)]
-    expect(f"{node.name} offers {names} and no press", "Press" in names)
+    assert "Press" in names, f"{node.name} offers {names} and no press"
     pyatspi.setTimeout(200, -1)
     try:
         actions.doAction(names.index("Press"))
@@ -80,10 +75,10 @@ pyatspi.Registry.registerEventListener(lambda event: focused.append(event.source
 wait_for("the program is not there", lambda: "Initial Year Draw:  $0" in result())
 
 fields = [node for node in everything() if node.getState().contains(pyatspi.STATE_EDITABLE)]
-expect("eight fields with names of their own, descriptions and texts",
-       len(fields) == len({n.name for n in fields if n.description and text_of(n)}) == 8)
-expect("two rules", len([n for n in everything() if n.getRoleName() == "separator"
-                         and n.parent.getRoleName() == "filler"]) == 2)
+assert len(fields) == len({n.name for n in fields if n.description and text_of(n)}) == 8, \
+    "not eight fields with names of their own, descriptions and texts"
+assert len([node for node in everything() if node.getRoleName() == "separator"
+            and node.parent.getRoleName() == "filler"]) == 2, "not two rules"
 
 year = the("text", "Start with 1 Jan:")
 years = itertools.count(1990)
@@ -107,13 +102,13 @@ wait_for("no focus is told of after the window has become active again",
          lambda: year in focused)
 
 calculate = the("push button", "Calculate Annual Draw")
-expect("the description of the button", calculate.description.startswith("Click this button"))
+assert calculate.description.startswith("Click this button")
 act(calculate)
 wait_for("the result", lambda: "Initial Year Draw:  $73,325" in result())
 
 act(the("menu item", "Fundlet Help…"))
 page = the("text", "Fundlet Help")
-expect("the text of the help", text_of(page).startswith("Fundlet\nVersion "))
+assert text_of(page).startswith("Fundlet\nVersion ")
 act(the("push button", "Close"))
 wait_for("the help is not closed", lambda: not page.getState().contains(pyatspi.STATE_SHOWING))
 

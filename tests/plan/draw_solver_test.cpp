@@ -41,8 +41,7 @@ TEST(DrawSolver, FindsTheDrawOfEachSamplePlan) {
       {MakePlan(12, 0, 0, 5e5, 5e5, 0), 1, 0, 5e5, "0"},
       {MakePlan(10, 0, 0, 0, 0, 12000), 119, 11999.95, 0.48, "12,000"},
       {MakePlan(40, .03, .05, 1e6, 0, 0), 792, 37150.29, -0.49, "37,150"},
-      {MakePlan(40, .03, .0504, 1e6, 0, 0), 11693, 37407.65, 0.50, "37,408"},
-  };
+      {MakePlan(40, .03, .0504, 1e6, 0, 0), 11693, 37407.65, 0.50, "37,408"}};
   for (auto [plan, levels, draw, final_balance, result] : samples) {
     EXPECT_EQ(LevelsOfSolve(plan), levels);
     EXPECT_NEAR(plan.AnnualDraw, draw, 0.01);

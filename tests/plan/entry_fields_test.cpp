@@ -5,7 +5,6 @@
 #include "tests/plan/text_form.h"
 
 namespace fundlet {
-namespace {
 
 using enum FocusCode;
 
@@ -18,12 +17,12 @@ TEST(LeaveField, ReadsTheTextAndShowsWhatWasReadWithoutATestOfItsRange) {
       {COLA, "100", "100.0"},
       {COLA, "1,5", "1.0"},
       {COLA, "2.035", "2.04"},
-      {FundletAPR, "1e999", "1e999"},
+      {FundletAPR, "-1e999", "-1e999"},
+      {StartFundlet, "1e999", "1e999"},
       {StartFundlet, "1000000000", "1,000,000,000"},
       {StartFundlet, ",1,2,34.56,7", "1,235"},
       {SocialSecurity, "abc", "0"},
-      {EndFundlet, "-0.4", "0"},
-  };
+      {EndFundlet, "-0.4", "0"}};
   Plan plan;
   for (const auto& [field, typed, shown] : cases) {
     TextForm form({{field, typed}});
@@ -34,5 +33,4 @@ TEST(LeaveField, ReadsTheTextAndShowsWhatWasReadWithoutATestOfItsRange) {
   EXPECT_EQ(plan.StartFundlet, 1234.567);
 }
 
-}  // namespace
 }  // namespace fundlet

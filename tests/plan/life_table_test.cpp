@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 namespace fundlet {
-namespace {
 
 TEST(LifeTable, FallsWithEveryYearOfAge) {
   Plan plan;
@@ -42,5 +41,4 @@ TEST(LifeTable, GivesTheYearsUntilFewerThanTheFractionAreAlive) {
   EXPECT_EQ(plan.YearsLeft, 2) << "strictly fewer";
 }
 
-}  // namespace
 }  // namespace fundlet

@@ -9,29 +9,27 @@ namespace {
 
 using enum FocusCode;
 
-constexpr const char* kRefused = "refused";
+void ExpectEntries(FocusCode field, std::size_t limit,
+                   const std::vector<std::pair<std::string, std::string>>& entries) {
+  for (const auto& [text, entry] : entries) {
+    EXPECT_EQ(PastedEntry(field, text, limit).value_or("refused"), entry) << text;
+  }
+}
 
 TEST(PastedEntry, IsTheNumberOfTheTextAsTheFieldReadsIt) {
-  const std::tuple<FocusCode, std::size_t, const char*, const char*> cases[] = {
-      {SocialSecurity, 6, "  25,000\r\n", "25,000"},
-      {SocialSecurity, 6, "250,000", "250000"},
-      {SocialSecurity, 6, "$20,000.00", "20,000"},
-      {StartFundlet, 11, "1,000,000,000", "1000000000"},
-      {StartFundlet, 11, "\u00A0$ 1\u202F250\u2007000.50 ", "1250000.50"},
-      {StartFundlet, 11, "1\u2019234\u2019567", "1234567"},
-      {StartFundlet, 11, "-€5", "-5"},
-      {StartFundlet, 11, "£\u22125", "-5"},
-      {StartFundlet, 11, "\u221212 ¥", "-12"},
-      {StartFundlet, 11, "2.5e+5 €", "2.5e+5"},
-      {StartYear, 4, "2\u2009030", "2030"},
-      {StartYear, 4, "2030.0", "2030"},
-      {StartAge, 2, "+65.", "65"},
-      {COLA, 5, "3.50 %", "3.50"},
-      {COLA, 5, ".5", ".5"},
-  };
-  for (const auto& [field, limit, pasted, entry] : cases) {
-    EXPECT_EQ(PastedEntry(field, pasted, limit).value_or(kRefused), entry) << pasted;
-  }
+  ExpectEntries(SocialSecurity, 6,
+                {{"  25,000\r\n", "25,000"}, {"250,000", "250000"}, {"$20,000.00", "20,000"}});
+  ExpectEntries(StartFundlet, 11,
+                {{"1,000,000,000", "1000000000"},
+                 {"\u00A0$ 1\u202F250\u2007000.50 ", "1250000.50"},
+                 {"1\u2019234\u2019567", "1234567"},
+                 {"-€5", "-5"},
+                 {"£\u22125", "-5"},
+                 {"\u221212 ¥", "-12"},
+                 {"2.5e+5 €", "2.5e+5"}});
+  ExpectEntries(StartYear, 4, {{"2\u2009030", "2030"}, {"2030.0", "2030"}});
+  ExpectEntries(StartAge, 2, {{"+65.", "65"}});
+  ExpectEntries(COLA, 5, {{"3.50 %", "3.50"}, {".5", ".5"}});
 }
 
 void ExpectRefused(FocusCode field, std::size_t limit, const std::vector<std::string>& texts) {

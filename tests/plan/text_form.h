@@ -29,12 +29,10 @@ using Texts = std::map<FocusCode, std::string>;
 // A form without a window: the eight texts of a valid plan, and a list of all calls that change
 // something or show something, in order.
 struct TextForm : EntryForm {
-  Texts texts = {
-      {FocusCode::StartYear, "2010"},        {FocusCode::StartAge, "70"},
-      {FocusCode::YearsLeft, "4"},           {FocusCode::COLA, "2.5"},
-      {FocusCode::StartFundlet, "500,000"},  {FocusCode::FundletAPR, "5"},
-      {FocusCode::SocialSecurity, "20,000"}, {FocusCode::EndFundlet, "100,000"},
-  };
+  Texts texts = {{FocusCode::StartYear, "2010"},        {FocusCode::StartAge, "70"},
+                 {FocusCode::YearsLeft, "4"},           {FocusCode::COLA, "2.5"},
+                 {FocusCode::StartFundlet, "500,000"},  {FocusCode::FundletAPR, "5"},
+                 {FocusCode::SocialSecurity, "20,000"}, {FocusCode::EndFundlet, "100,000"}};
   std::vector<std::string> actions;
   std::function<void()> while_alerting = [] {};
 

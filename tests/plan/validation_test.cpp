@@ -8,7 +8,6 @@
 #include "tests/plan/text_form.h"
 
 namespace fundlet {
-namespace {
 
 using enum FocusCode;
 
@@ -33,8 +32,7 @@ const std::tuple<FocusCode, const char*, const char*, const char*> kRefusals[] =
     {SocialSecurity, "-1e999", "0", "Annual social secuity must be at least $0."},
     {SocialSecurity, "99,999.5", "99,999", "Annual social secuity must be at less than $100,000."},
     {EndFundlet, "-0.5", "0", "Terminal fundlet must be at least $0."},
-    {EndFundlet, "500,000.1", "0", "Terminal fundlet must be no more than the initial fundlet."},
-};
+    {EndFundlet, "500,000.1", "0", "Terminal fundlet must be no more than the initial fundlet."}};
 
 TEST(Validation, ShowsOneAlertForAnInvalidValueAndForcesAValidOne) {
   for (const auto& [field, text, forced, message] : kRefusals) {
@@ -80,11 +78,11 @@ TEST(Validation, AcceptsEachValueAtItsBound) {
 
 TEST(Validation, RewritesAndSelectsTheFieldsOfMoneyThatPass) {
   Plan plan;
-  TextForm form({{StartYear, "2010.5"},
-                 {COLA, "2.555"},
-                 {StartFundlet, "1234567.8"},
-                 {SocialSecurity, "1234"},
-                 {EndFundlet, "-0"}});
+  const Texts texts = {
+      {StartYear, "2010.5"},    {COLA, "2.555"},    {StartFundlet, "1234567.8"},
+      {SocialSecurity, "1234"}, {EndFundlet, "-0"},
+  };
+  TextForm form(texts);
   EXPECT_FALSE(ErrorDetected(plan, form));
   EXPECT_EQ(form.actions,
             (std::vector<std::string>{"text StartFundlet 1,234,568", "select StartFundlet",
@@ -92,5 +90,4 @@ TEST(Validation, RewritesAndSelectsTheFieldsOfMoneyThatPass) {
                                       "text EndFundlet 0", "select EndFundlet"}));
 }
 
-}  // namespace
 }  // namespace fundlet

@@ -10,7 +10,6 @@
 #include "tests/services/scratch_folder.h"
 
 namespace fundlet {
-namespace {
 
 namespace fs = std::filesystem;
 
@@ -37,8 +36,7 @@ TEST(BinaryStream, NamesFileActionAndReasonOfAFailure) {
       {open, folder.Item("short/x"), "opened: a part of its path is not a folder."},
       {create, folder.Item(std::string(300, 'x')), "created: its name is too long."},
       {read, folder.Item("short"), "read: the file is shorter than it should be."},
-      {create, FolderItem().Child("x"), "created: you have no folder of your own to keep it in."},
-  };
+      {create, FolderItem().Child("x"), "created: you have no folder of your own to keep it in."}};
   for (const auto& [operation, item, rest] : failures) {
     const std::string name = item.Path().empty() ? item.Name() : item.Path().string();
     EXPECT_EQ(ErrorOf([&o = operation, &i = item] { o(i); }),
@@ -73,8 +71,7 @@ TEST(BinaryStream, NamesTheActionOfAnyCallThatFails) {
       {[](BinaryStream& stream) { stream.ReadInt8(); }, "read"},
       {[](BinaryStream& stream) { stream.WriteInt8(1); }, "written"},
       {[](BinaryStream& stream) { stream.SetPosition(0); }, "written"},
-      {[](BinaryStream& stream) { stream.Close(); }, "written to the end"},
-  };
+      {[](BinaryStream& stream) { stream.Close(); }, "written to the end"}};
   for (const auto& [call, action] : calls) {
     const int next = dup(0);
     close(next);
@@ -103,5 +100,4 @@ TEST(Preferences, AreInTheConfigurationFolderOrInTheHomeFolder) {
   EXPECT_EQ(SpecialFolder::Preferences().Child("x").Name(), "x");
 }
 
-}  // namespace
 }  // namespace fundlet

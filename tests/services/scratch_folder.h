@@ -25,15 +25,6 @@ inline std::string ErrorOf(const std::function<void()>& action) {
   return "";
 }
 
-// Sets an environment variable of this process.
-inline void SetVariable(const char* name, const std::string& value) {
-#ifdef _WIN32
-  _putenv_s(name, value.c_str());
-#else
-  setenv(name, value.c_str(), 1);
-#endif
-}
-
 // A new folder, which is also the user's preferences folder, until the object is destroyed.
 class ScratchFolder {
  public:
@@ -41,9 +32,9 @@ class ScratchFolder {
     std::filesystem::create_directory(path_);
     std::filesystem::permissions(path_, std::filesystem::perms{0777});
 #ifdef _WIN32
-    SetVariable("APPDATA", path_.string());
+    _putenv_s("APPDATA", path_.string().c_str());
 #else
-    SetVariable("XDG_CONFIG_HOME", path_.string());
+    setenv("XDG_CONFIG_HOME", path_.c_str(), 1);
 #endif
   }
   ~ScratchFolder() { std::filesystem::remove_all(path_); }

@@ -6,7 +6,8 @@
 #include "ui/help_window.h"
 
 namespace fundlet {
-namespace {
+
+using namespace std::string_literals;
 
 using Controls = StartedTest;
 
@@ -31,8 +32,7 @@ TEST_F(Controls, ShowEachPropertyThatIsSet) {
       {"Password", true, [&](Widget w) { return is(w, "echoMode", QLineEdit::Password); }},
       {"Border", false, [&](Widget w) { return is(w, "frame", 0) || is(w, "frameShape", 0); }},
       {"ScrollbarHorizontal", true,
-       [&](Widget w) { return is(w, "lineWrapMode", QPlainTextEdit::NoWrap); }},
-  };
+       [&](Widget w) { return is(w, "lineWrapMode", QPlainTextEdit::NoWrap); }}};
   user::Press("F1");
   Control* const controls[] = {&Main().StaticText1(), &Main().StartYearField(),
                                &Main().SaveButton(), &GlobalModule::HelpWindow->TextField()};
@@ -46,6 +46,30 @@ TEST_F(Controls, ShowEachPropertyThatIsSet) {
       }
     }
   }
+}
+
+TEST_F(Controls, NameThemselvesAndThePropertyIfASetIsWrongAndKeepWhatWasBeforeIt) {
+  auto& sign = Main().StaticText1();
+  const auto set = [&](const std::string& bytes) {
+    return [=, &sign] { sign._SetProperties(bytes); };
+  };
+  const Property caption{"Caption", "x"};
+  const std::pair<std::function<void()>, const char*> errors[] = {
+      {set("MenuBarVisible \x01"),
+       "control “StaticText1”, property “MenuBarVisible”: there is no such property"},
+      {set("Left \x01\0"s),
+       "control “StaticText1”, property “Left”: the set ends inside the value"},
+      {set("Text \xFF\xFF\xFF\xFFx"),
+       "control “StaticText1”, property “Text”: the set ends inside the value"},
+      {set("Text \x02\0\0\0okText"s), "control “StaticText1”, property “”: a name without a value"},
+      {[&] { Main()._SetProperties("TabIndex x"); },
+       "window “Fundlet”, property “TabIndex”: there is no such property"},
+      {[&] {
+         EncodePropertySet(sign.Properties(), {&caption, 1});
+       },
+       "no place for the property “Caption”"}};
+  for (const auto& [action, error] : errors) EXPECT_EQ(ErrorOf(action), error);
+  EXPECT_EQ(sign.Text(), "ok");
 }
 
 TEST_F(Controls, GiveAndSetTheSelectionOfAFieldForAScreenReader) {
@@ -94,8 +118,7 @@ TEST_F(Controls, BringADialogToTheFrontWhenTheyArePressedBeneathIt) {
         {[] { QTest::mouseMove(Main().Native().windowHandle(), QPoint(9, 9)); }, false},
         {[] { user::Click(Found("StartYearField")); }, true},
         {[] { QTest::keyClick(Main().Native().windowHandle(), Qt::Key_Return); }, true},
-        {[] { user::CloseBox(GlobalModule::HelpWindow->Native()); }, false},
-    };
+        {[] { user::CloseBox(GlobalModule::HelpWindow->Native()); }, false}};
     for (const auto& [input, raises] : inputs) {
       user::Activate(Main());
       input();
@@ -108,5 +131,4 @@ TEST_F(Controls, BringADialogToTheFrontWhenTheyArePressedBeneathIt) {
   EXPECT_EQ(FocusName(), "StartAgeField");
 }
 
-}  // namespace
 }  // namespace fundlet

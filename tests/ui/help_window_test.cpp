@@ -8,12 +8,10 @@
 #include "ui/help_text.h"
 
 namespace fundlet {
-namespace {
 
 class Help : public StartedTest {
  protected:
   static aHelpWindow& Window() { return *GlobalModule::HelpWindow; }
-  static int Showing() { return VisibleWindows("Fundlet Help"); }
 };
 
 using SmallScreen = FundletTest;
@@ -28,14 +26,14 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
     user::Press("F1");
     user::Choose("Help", "Fundlet Help…");
     EXPECT_EQ(&Window(), first);
-    EXPECT_EQ(Showing(), 1);
+    EXPECT_EQ(VisibleWindows("Fundlet Help"), 1);
     user::Press("Return");
-    EXPECT_EQ(Showing(), 0);
+    EXPECT_EQ(VisibleWindows("Fundlet Help"), 0);
     EXPECT_EQ(FocusName(), "COLAField");
   }
   Main().ClearFocus();
   user::Press("Ctrl+E");
-  EXPECT_EQ(Showing(), 1);
+  EXPECT_EQ(VisibleWindows("Fundlet Help"), 1);
 }
 
 TEST_F(Help, FollowsTheSizeOfItsWindowOnceResized) {
@@ -111,5 +109,4 @@ TEST_F(SmallScreen, ShowsTheHelpAndTheSaveDialogWhole) {
   user::Press("Ctrl+S");
 }
 
-}  // namespace
 }  // namespace fundlet

@@ -41,22 +41,20 @@ double ContrastIn(const QImage& picture, const QRect& part) {
   return (Luminance(*light) + 0.05) / (Luminance(*dark) + 0.05);
 }
 
-class Legibility : public FundletTest {
- protected:
-  // The area within a control's frame, in pixels of the window.
-  static QRect Inside(const QWidget& widget) {
-    const QPoint corner = widget.mapTo(widget.window(), QPoint(0, 0));
-    return QRect(corner, widget.size()).adjusted(4, 3, -4, -3);
-  }
-  static void ForEachControl(
-      const std::function<void(const main_layout::ControlRow&, QWidget&)>& do_with) {
-    for (const main_layout::ControlRow& row : main_layout::Controls()) {
-      if (!row.text.empty()) do_with(row, *Main()._ControlByName(row.name).Native());
-    }
-  }
-};
+using Legibility = FundletTest;
 
-using FocusRing = Legibility;
+// The area within a control's frame, in pixels of the window.
+QRect Inside(const QWidget& widget) {
+  const QPoint corner = widget.mapTo(widget.window(), QPoint(0, 0));
+  return QRect(corner, widget.size()).adjusted(4, 3, -4, -3);
+}
+
+void ForEachControl(const std::function<void(const main_layout::ControlRow&, QWidget&)>& do_with) {
+  for (const main_layout::ControlRow& row : main_layout::Controls()) {
+    if (row.text.empty()) continue;
+    do_with(row, *aFundletWindow::Instance()._ControlByName(row.name).Native());
+  }
+}
 
 TEST_F(Legibility, FitsEveryTextInAnySystemFont) {
   for (const char* family : {"DejaVu Sans", "Liberation Sans", "Noto Sans"}) {
@@ -125,7 +123,7 @@ TEST_F(Legibility, HoldsInTheMenusTheHelpAndTheMessages) {
   });
 }
 
-TEST_F(FocusRing, StandsOutAroundOneControl) {
+TEST_F(Legibility, IsThatOfTheFocusByARingAroundOneControl) {
   Start();
   for (const char* name : {"StartAgeField", "YearsLeftField", "EndFundletField", "SaveButton"}) {
     while (FocusName() != name) user::Press("Tab");

@@ -5,7 +5,6 @@
 #include "ui/main_layout.h"
 
 namespace fundlet {
-namespace {
 
 using MainWindow = StartedTest;
 using Startup = FundletTest;
@@ -110,14 +109,21 @@ TEST_F(MainWindow, WrapsToolTipsAndShowsThemForADimmedButton) {
   }
 }
 
-constexpr const char* kFile = "Fundlet.Preferences";
-
-TEST_F(Startup, ReportsAFileThatCannotBeReadAndGoesOn) {
-  folder_.Write(kFile, std::string(43, '\7'));
+TEST_F(Startup, ReportsAFileThatCannotBeReadAndGoesOnUnlessTheDesktopAsksForTheEnd) {
+  folder_.Write("Fundlet.Preferences", std::string(43, '\7'));
   ExpectMessage([this] { Start(); }, "File “Fundlet.Preferences” is busy.");
   user::Type("2010");
   user::Press("Tab");
   EXPECT_EQ(Text("StartYearField"), "2010");
+  End();
+  ExpectDialog([](QWidget&) {
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+  });
+  Start();
+  EXPECT_EQ(Window::Front(), nullptr);
+  for (const QWidget* top : QApplication::topLevelWidgets()) EXPECT_FALSE(top->isVisible());
+  EXPECT_EQ(RunWith([] {}), 0);
 }
 
 TEST_F(Startup, PlacesTheWindowOnScreensOfAnySize) {
@@ -134,17 +140,4 @@ TEST_F(Startup, PlacesTheWindowOnScreensOfAnySize) {
   }
 }
 
-TEST_F(Startup, EndsIfTheDesktopAsksForIt) {
-  folder_.Write(kFile, "x");
-  ExpectDialog([](QWidget&) {
-    QEvent quit(QEvent::Quit);
-    QCoreApplication::sendEvent(qApp, &quit);
-  });
-  Start();
-  EXPECT_EQ(Window::Front(), nullptr);
-  for (const QWidget* top : QApplication::topLevelWidgets()) EXPECT_FALSE(top->isVisible());
-  EXPECT_EQ(RunWith([] {}), 0);
-}
-
-}  // namespace
 }  // namespace fundlet

@@ -6,7 +6,6 @@
 #include "ui/help_window.h"
 
 namespace fundlet {
-namespace {
 
 constexpr const char* kKeys[] = {
     "5",      "0",      ".",      ",",      "-",      "1 e 9",     "6 7",    "x",      "Tab",
@@ -37,17 +36,16 @@ class RandomWalk : public StartedTest {
 };
 
 TEST_F(RandomWalk, KeepsTheInvariantsAtEveryStep) {
-  const std::function<void()> steps[] = {
-      [this] { user::Press(OneOf(kKeys)); },
-      [this] { user::Press(OneOf(kKeys)); },
-      [this] { user::Click(Found(OneOf(kControls))); },
-      [] { user::Choose("File", "About Fundlet…"); },
-      [] { user::Choose("Edit", "Paste"); },
-      [] { user::VisitAnotherWindow(); },
-      [] {
-        if (GlobalModule::HelpShowing) user::CloseBox(GlobalModule::HelpWindow->Native());
-      },
-  };
+  const std::function<void()> steps[] = {[this] { user::Press(OneOf(kKeys)); },
+                                         [this] { user::Press(OneOf(kKeys)); },
+                                         [this] { user::Click(Found(OneOf(kControls))); },
+                                         [] { user::Choose("File", "About Fundlet…"); },
+                                         [] { user::Choose("Edit", "Paste"); },
+                                         [] { user::VisitAnotherWindow(); },
+                                         [] {
+                                           if (GlobalModule::HelpShowing)
+                                             user::CloseBox(GlobalModule::HelpWindow->Native());
+                                         }};
   int solved = 0;
   AnswerAnyDialog();
   for (int step = 0; step < 3000; ++step) {
@@ -63,5 +61,4 @@ TEST_F(RandomWalk, KeepsTheInvariantsAtEveryStep) {
   ForgetExpected();
 }
 
-}  // namespace
 }  // namespace fundlet

@@ -23,18 +23,8 @@ QPushButton& SaveButton() {
   return *Found<QDialogButtonBox>("buttonBox").button(QDialogButtonBox::Save);
 }
 
-void Confirm(bool by_mouse) {
-  if (by_mouse) {
-    user::Click(SaveButton());
-  } else {
-    user::Press("Return");
-  }
-}
-
 void ByYes(QWidget& question) {
-  QAbstractButton* yes = dynamic_cast<QMessageBox&>(question).button(QMessageBox::Yes);
-  ASSERT_NE(yes, nullptr) << "the dialog is no question";
-  user::Click(*yes);
+  user::Click(*dynamic_cast<QMessageBox&>(question).button(QMessageBox::Yes));
 }
 
 // The dialog starts in the folder Documents. In it, above it, beneath it and beside it are folders
@@ -71,7 +61,8 @@ class SaveDialog : public FundletTest {
   // Types the name in the dialog key by key; presses Return or clicks Save.
   void Enter(const std::string& name, bool by_mouse = false) const {
     user::Replace(Absolute(name));
-    Confirm(by_mouse);
+    if (by_mouse) return user::Click(SaveButton());
+    user::Press("Return");
   }
 
   // The files that hold a schedule; they are removed.
@@ -88,39 +79,34 @@ class SaveDialog : public FundletTest {
 };
 
 TEST_F(SaveDialog, WritesExactlyTheFileThatIsTyped) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"new", "Documents/new"},
-      {"old", "Documents/old"},
-      {"sub/old", "Documents/sub/old"},
-      {"../old", "old"},
-      {"../beside/old", "beside/old"},
-      {"~/old", "old"},
-      {"@/Documents/old", "Documents/old"},
-      {"@/beside//old", "beside/old"},
-      {"@/new", "new"},
-      {"link/old", "beside/old"},
-      {"link/../old", "Documents/old"},
-      {"to old", "Documents/sub/old"},
-      {"a \"b\" c.txt", "Documents/a \"b\" c.txt"},
-      {" new ", "Documents/ new "},
-      {":new", "Documents/:new"},
-      {"~new", "Documents/~new"},
-  };
+  const std::pair<const char*, Texts> rows[] = {
+      {"Documents/new", {"new"}},
+      {"Documents/old", {"old", "@/Documents/old", "link/../old"}},
+      {"Documents/sub/old", {"sub/old", "to old"}},
+      {"old", {"../old", "~/old"}},
+      {"new", {"@/new"}},
+      {"beside/old", {"../beside/old", "@/beside//old", "link/old"}},
+      {"Documents/a \"b\" c.txt", {"a \"b\" c.txt"}},
+      {"Documents/ new ", {" new "}},
+      {"Documents/:new", {":new"}},
+      {"Documents/~new", {"~new"}}};
   const QString documents = QString::fromStdString(Absolute("@/Documents"));
-  for (const bool by_mouse : {false, true}) {
-    for (const auto& [typed, written] : rows) {
-      SCOPED_TRACE(typed);
-      MakeFiles();
-      const bool asks = fs::exists(folder_.Path() / written);
-      InDialog([&, typed = typed](QWidget& dialog) {
-        dynamic_cast<QFileDialog&>(dialog).setDirectory(documents);
-        if (asks) ExpectDialog(ByYes);
-        Enter(typed, by_mouse);
-        ForgetExpected();
-        dialog.close();
-      });
-      EXPECT_EQ(TakeDialogs().size(), asks ? 2U : 1U);
-      EXPECT_EQ(TakeSchedules(), Texts{written});
+  for (const auto& [written, texts] : rows) {
+    for (const std::string& typed : texts) {
+      for (const bool by_mouse : {false, true}) {
+        SCOPED_TRACE(typed);
+        MakeFiles();
+        const bool asks = fs::exists(folder_.Path() / written);
+        InDialog([&](QWidget& dialog) {
+          dynamic_cast<QFileDialog&>(dialog).setDirectory(documents);
+          if (asks) ExpectDialog(ByYes);
+          Enter(typed, by_mouse);
+          ForgetExpected();
+          dialog.close();
+        });
+        EXPECT_EQ(TakeDialogs().size(), asks ? 2U : 1U);
+        EXPECT_EQ(TakeSchedules(), Texts{written});
+      }
     }
   }
 }
@@ -141,8 +127,7 @@ TEST_F(SaveDialog, OpensATypedFolderAndProposesTheNameThere) {
     const auto& files = dynamic_cast<QFileDialog&>(dialog);
     const std::pair<const char*, const char*> rows[] = {
         {"sub", "@/Documents/sub"},     {"..", "@/Documents"},        {"../beside/", "@/beside"},
-        {"~/Documents", "@/Documents"}, {"link", "@/Documents/link"}, {"//", "/"},
-    };
+        {"~/Documents", "@/Documents"}, {"link", "@/Documents/link"}, {"//", "/"}};
     for (const auto& [typed, folder] : rows) {
       Enter(typed);
       EXPECT_EQ(files.directory().path().toStdString(), Absolute(folder));
@@ -153,27 +138,21 @@ TEST_F(SaveDialog, OpensATypedFolderAndProposesTheNameThere) {
 }
 
 TEST_F(SaveDialog, RefusesATextThatNamesNoFileAndKeepsIt) {
-  const std::pair<std::string, std::string> rows[] = {
-      {"", "Type a name for the file."},
-      {"  ", "Type a name for the file."},
-      {".", "Type a name for the file."},
-      {"@/Documents/", "Type a name for the file."},
-      {"gone/", "There is no folder “@/Documents/gone”. Choose another folder."},
-      {"gone/new", "There is no folder “@/Documents/gone”. Choose another folder."},
-      {"~root/new", "There is no folder “@/Documents/~root”. Choose another folder."},
-      {"old/", "“@/Documents/old” is not a folder. Choose another folder."},
-      {"old/new", "“@/Documents/old” is not a folder. Choose another folder."},
-      {"a\nb", "A file name cannot contain line breaks or tabs. Type the name without them."},
-  };
+  const std::pair<const char*, Texts> rows[] = {
+      {"Type a name for the file.", {"", "  ", ".", "@/Documents/"}},
+      {"There is no folder “@/Documents/gone”. Choose another folder.", {"gone/", "gone/new"}},
+      {"There is no folder “@/Documents/~root”. Choose another folder.", {"~root/new"}},
+      {"“@/Documents/old” is not a folder. Choose another folder.", {"old/", "old/new"}},
+      {"A file name cannot contain line breaks or tabs. Type the name without them.", {"a\nb"}}};
   InDialog([&](QWidget& dialog) {
     TakeDialogs();
-    for (const auto& [typed, refusal] : rows) {
-      Name().setText(QString::fromStdString(Absolute(typed)));
-      ExpectDialog(ByKey(Qt::Key_Return));
-      Confirm(true);
-      EXPECT_EQ(TakeDialogs(), Texts{"Save: " + Absolute(refusal)});
-      EXPECT_EQ(FocusName(), "fileNameEdit");
-      EXPECT_EQ(Name().text().toStdString(), Absolute(typed));
+    for (const auto& [refusal, texts] : rows) {
+      for (const std::string& text : texts) {
+        Name().setText(QString::fromStdString(Absolute(text)));
+        ExpectMessage([] { user::Click(SaveButton()); }, "Save: " + Absolute(refusal));
+        EXPECT_EQ(FocusName(), "fileNameEdit");
+        EXPECT_EQ(Name().text().toStdString(), Absolute(text));
+      }
     }
     dialog.close();
   });
@@ -183,24 +162,21 @@ TEST_F(SaveDialog, TakesTheFileOrFolderSelectedInTheList) {
   InDialog([this](QWidget& /*dialog*/) {
     auto& list = Found<QTreeView>("treeView");
     const auto select = [&](const char* name) {
-      const auto in_list = [&] {
-        return list.model()->match(list.model()->index(0, 0, list.rootIndex()), Qt::DisplayRole,
-                                   name);
-      };
-      while (in_list().isEmpty()) user::Settle();
       list.setFocus();
-      list.selectionModel()->select(
-          in_list().front(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+      while (list.currentIndex().data() != name) {
+        user::Settle();
+        for (const char* letters : {"", name}) list.keyboardSearch(letters);
+      }
     };
     user::Replace("");
     select("sub");
-    Confirm(true);
+    user::Click(SaveButton());
     EXPECT_EQ(Name().text(), "");
     EXPECT_TRUE(SaveButton().isEnabled());
     user::Type("mine");
     select("old");
     ExpectDialog(ByYes);
-    Confirm(true);
+    user::Click(SaveButton());
   });
   EXPECT_EQ(TakeSchedules(), Texts{"Documents/sub/old"});
 }
@@ -224,37 +200,28 @@ TEST_F(SaveDialog, AsksBeforeItReplacesAFileAndTakesTheQuestionWithIt) {
   EXPECT_EQ(TakeSchedules(), Texts());
 }
 
-TEST_F(SaveDialog, BreaksTheLinesOfAMessageAboutALongName) {
-  InDialog([this](QWidget& dialog) {
-    for (const char* letter : {"m", "😀"}) {
-      ExpectDialog([](QWidget& message) {
+TEST_F(SaveDialog, FitsAMessageAboutALongNameOrPathOnTheScreen) {
+  const QString path = ('/' + QString("x").repeated(60)).repeated(80);
+  for (const QString& name :
+       {'1' + QString("m").repeated(150) + '/', QString("😀").repeated(150) + "1/", path}) {
+    InDialog([&](QWidget& dialog) {
+      ExpectDialog([&](QWidget& message) {
         EXPECT_LT(Found<QLabel>("qt_msgbox_label").minimumSizeHint().width(), 600);
+        EXPECT_LT(message.height(), message.screen()->availableSize().height());
         const QString text = dynamic_cast<QMessageBox&>(message).text();
         EXPECT_EQ(QString::fromUtf8(text.toUtf8()), text) << "not within a character";
+        const auto* whole = message.findChild<QPlainTextEdit*>();
+        EXPECT_EQ(whole != nullptr && whole->toPlainText().contains(path), name == path);
         message.close();
       });
-      Name().setText('1' + QString(letter).repeated(150) + '/');
-      Confirm(true);
-    }
-    dialog.close();
-  });
-}
-
-TEST_F(SaveDialog, FitsAMessageAboutALongPathOnTheScreen) {
-  const QString path = ('/' + QString("x").repeated(60)).repeated(80);
-  InDialog([&](QWidget& /*dialog*/) {
-    ExpectDialog([&](QWidget& message) {
-      EXPECT_LT(message.height(), message.screen()->availableSize().height());
-      const QString text = dynamic_cast<QMessageBox&>(message).text();
-      EXPECT_TRUE(text.startsWith("“Save Schedule”") && text.endsWith("too long."))
-          << text.toStdString();
-      const auto* whole = message.findChild<QPlainTextEdit*>();
-      EXPECT_TRUE(whole != nullptr && whole->toPlainText().contains(path));
-      message.close();
+      Name().setText(name);
+      user::Click(SaveButton());
+      dialog.close();
     });
-    Name().setText(path);
-    Confirm(true);
-  });
+  }
+  const QString last = QString::fromStdString(TakeDialogs().back());
+  EXPECT_TRUE(last.startsWith("“Save Schedule”") && last.endsWith("too long."))
+      << last.toStdString();
 }
 
 }  // namespace

@@ -9,18 +9,16 @@
 #include "ui/main_layout.h"
 
 namespace fundlet {
-namespace {
 
 using GivenData = StartedTest;
-
-std::string Digest(const std::string& bytes) {
-  const QByteArray data = QByteArray::fromStdString(bytes);
-  return QCryptographicHash::hash(data, QCryptographicHash::Md5).toHex().left(8).toStdString();
-}
 
 // Each digest was taken when every text and number in it had been compared, byte by byte, with the
 // texts and numbers that the program must have. A deliberate change needs a new digest.
 TEST_F(GivenData, IsUnchangedInWindowsControlsAndMenus) {
+  const auto digest = [](const std::string& bytes) {
+    const QByteArray data = QByteArray::fromStdString(bytes);
+    return QCryptographicHash::hash(data, QCryptographicHash::Md5).toHex().left(8).toStdString();
+  };
   const auto set = [](const PropertyTarget& target, std::span<const Property> own) {
     return EncodePropertySet(target.Properties(), own);
   };
@@ -45,13 +43,12 @@ TEST_F(GivenData, IsUnchangedInWindowsControlsAndMenus) {
   for (Property& property : text_field) {
     if (property.name == "Text") property.value = page_of_any_version;
   }
-  EXPECT_EQ(Digest(set(Main(), main_layout::WindowProperties())), "6da9dabc");
-  EXPECT_EQ(Digest(controls), "f8ec1ebc");
-  EXPECT_EQ(Digest(set(help, help_layout::WindowProperties())), "db994329");
-  EXPECT_EQ(Digest(set(help.TextField(), text_field)), "1c422a1e");
-  EXPECT_EQ(Digest(set(help.DoneButton(), help_layout::DoneButtonProperties())), "38152ee8");
-  EXPECT_EQ(Digest(menus), "db95e6c2");
+  EXPECT_EQ(digest(set(Main(), main_layout::WindowProperties())), "6da9dabc");
+  EXPECT_EQ(digest(controls), "f8ec1ebc");
+  EXPECT_EQ(digest(set(help, help_layout::WindowProperties())), "db994329");
+  EXPECT_EQ(digest(set(help.TextField(), text_field)), "1c422a1e");
+  EXPECT_EQ(digest(set(help.DoneButton(), help_layout::DoneButtonProperties())), "38152ee8");
+  EXPECT_EQ(digest(menus), "db95e6c2");
 }
 
-}  // namespace
 }  // namespace fundlet

@@ -1,12 +1,9 @@
 #include "tests/ui/window_fixture.h"
 
-#include <utility>
-
 #include <QAction>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QTimer>
 #include <QWindow>
 
 #include "app/my_application.h"
@@ -28,17 +25,6 @@ QAction* ActionNamed(const QWidget& menu, QString text) {
     if (action->text().remove('&') == text) return action;
   }
   throw std::runtime_error("no menu item " + text.toStdString());
-}
-
-void ClickItem(const QString& text) {
-  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  if (menu == nullptr) throw std::runtime_error("no menu is open");
-  const QPoint at = menu->actionGeometry(ActionNamed(*menu, text)).center();
-  // QMenu ignores a click until the mouse has moved within it.
-  QTest::mouseMove(menu->windowHandle(), at - QPoint(3, 1));
-  QTest::mouseMove(menu->windowHandle(), at);
-  QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, at);
-  Settle();
 }
 
 // Does the work of a window manager, which the offscreen platform lacks: returns the keyboard focus
@@ -122,8 +108,17 @@ void OpenContextMenu() {
 }
 
 void Pick(const QString& item, const QString& subitem) {
-  ClickItem(item);
-  if (!subitem.isEmpty()) ClickItem(subitem);
+  for (const QString& text : {item, subitem}) {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (text.isEmpty()) break;
+    if (menu == nullptr) throw std::runtime_error("no menu is open");
+    const QPoint at = menu->actionGeometry(ActionNamed(*menu, text)).center();
+    // QMenu ignores a click until the mouse has moved within it.
+    QTest::mouseMove(menu->windowHandle(), at - QPoint(3, 1));
+    QTest::mouseMove(menu->windowHandle(), at);
+    QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, at);
+    Settle();
+  }
   while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
   Settle();
 }
@@ -136,10 +131,9 @@ void Choose(const QString& menu, const QString& item, const QString& subitem) {
 }  // namespace user
 
 int VisibleWindows(const QString& title) {
-  const QWidgetList tops = QApplication::topLevelWidgets();
-  return static_cast<int>(std::count_if(tops.begin(), tops.end(), [&](const QWidget* top) {
-    return top->isVisible() && top->windowTitle() == title;
-  }));
+  return static_cast<int>(std::ranges::count_if(
+      QGuiApplication::topLevelWindows(),
+      [&](const QWindow* window) { return window->isVisible() && window->title() == title; }));
 }
 
 std::string EnabledEditing(Window& window) {
@@ -160,10 +154,6 @@ Answer ByKey(Qt::Key key) {
   return [key](QWidget& dialog) { QTest::keyClick(dialog.windowHandle(), key); };
 }
 
-Answer ByButton() {
-  return [](QWidget& dialog) { user::Click(*dynamic_cast<QMessageBox&>(dialog).defaultButton()); };
-}
-
 Answer ByCloseBox() {
   return [](QWidget& dialog) { user::CloseBox(dialog); };
 }
@@ -179,22 +169,12 @@ Answer BySaving(const std::string& path) {
   };
 }
 
-FundletTest::FundletTest() {
-  SetVariable("QT_QPA_PLATFORM", "offscreen");
-  SetVariable("HOME", folder_.Path().string());
-}
-
-FundletTest::~FundletTest() {
-  EXPECT_TRUE(expected_.empty()) << "an expected dialog was not shown";
-  End();
-}
-
 void FundletTest::UseScreen(int width, int height) {
-  folder_.Write("screen", R"({"screens": [{"name": "only", "x": 0, "y": 0, "width": )" +
-                              std::to_string(width) + ", \"height\": " + std::to_string(height) +
-                              R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-  const std::string platform = "offscreen:configfile=" + (folder_.Path() / "screen").string();
-  SetVariable("QT_QPA_PLATFORM", platform);
+  const QString screen = R"({"screens": [{"name": "only", "x": 0, "y": 0, "width": %1, "height": %2,
+                             "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+  folder_.Write("screen", screen.arg(width).arg(height).toStdString());
+  qputenv("QT_QPA_PLATFORM",
+          ("offscreen:configfile=" + (folder_.Path() / "screen").string()).c_str());
 }
 
 void FundletTest::Start(const QString& system_font) {
@@ -214,19 +194,6 @@ void FundletTest::End() {
   watchdog_.reset();
   runtime_.reset();
 }
-
-int FundletTest::RunWith(const std::function<void()>& action) {
-  QTimer::singleShot(0, watchdog_.get(), action);
-  return runtime_->Run();
-}
-
-void FundletTest::ExpectMessage(const std::function<void()>& action, const std::string& message) {
-  ExpectDialog(ByKey(Qt::Key_Escape));
-  action();
-  EXPECT_EQ(TakeDialogs(), std::vector{message});
-}
-
-std::vector<std::string> FundletTest::TakeDialogs() { return std::exchange(shown_, {}); }
 
 void FundletTest::Watch() {
   // Restarted first, because an answer may run an event loop of its own, in which dialogs open too.
@@ -251,25 +218,7 @@ void FundletTest::Handle(QWidget& dialog) {
   }
   const Answer answer = std::move(expected_.front());
   expected_.pop_front();
-  try {
-    answer(dialog);
-  } catch (const std::exception& error) {
-    ADD_FAILURE() << "the answer is not for this dialog: " << error.what();
-    dialog.close();
-  }
-}
-
-void FundletTest::Fill(const QString& field, const std::string& text) {
-  for (int step = 0; step < 12 && FocusName() != field.toStdString(); ++step) {
-    user::Press("Tab");
-  }
-  user::Replace(text);
-}
-
-void FundletTest::CalculateRefused(Answer answer) {
-  Fill("StartAgeField", "51");
-  ExpectDialog(std::move(answer));
-  Calculate();
+  answer(dialog);
 }
 
 }  // namespace fundlet

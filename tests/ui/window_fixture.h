@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "desktop/run/runtime.h"
@@ -73,7 +75,6 @@ std::string FocusName();  // the focused widget's object name; empty if there is
 // Answers a dialog as the user would.
 using Answer = std::function<void(QWidget& dialog)>;
 Answer ByKey(Qt::Key key);
-Answer ByButton();  // clicks the default button
 Answer ByCloseBox();
 Answer BySaving(
     const std::string& path);  // pastes the path into the save dialog and presses Return
@@ -82,20 +83,33 @@ Answer BySaving(
 // expected answer is closed and fails the test.
 class FundletTest : public ::testing::Test {
  protected:
-  FundletTest();
-  ~FundletTest() override;
+  FundletTest() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("HOME", folder_.Path().string().c_str());
+  }
+  ~FundletTest() override {
+    EXPECT_TRUE(expected_.empty()) << "an expected dialog was not shown";
+    End();
+  }
 
   void UseScreen(int width, int height);  // in pixels; to be called before Start
   void Start(const QString& system_font = "");
   // Runs the event loop, which calls `action` first, until Quit. Returns the exit status.
-  int RunWith(const std::function<void()>& action);
+  int RunWith(const std::function<void()>& action) {
+    QTimer::singleShot(0, watchdog_.get(), action);
+    return runtime_->Run();
+  }
   void End();  // ends the run and keeps the preferences folder for the next
   void ExpectDialog(Answer answer) { expected_.push_back(std::move(answer)); }
   void ForgetExpected() { expected_.clear(); }
   // Expects that the action shows this message alone, which is answered by Escape.
-  void ExpectMessage(const std::function<void()>& action, const std::string& message);
+  void ExpectMessage(const std::function<void()>& action, const std::string& message) {
+    ExpectDialog(ByKey(Qt::Key_Escape));
+    action();
+    EXPECT_EQ(TakeDialogs(), std::vector{message});
+  }
   // Titles and texts of the dialogs since the last call, without the usual title "Fundlet".
-  std::vector<std::string> TakeDialogs();
+  std::vector<std::string> TakeDialogs() { return std::exchange(shown_, {}); }
 
   static aFundletWindow& Main() { return aFundletWindow::Instance(); }
   static Plan& ThePlan() { return Main().ThePlan(); }
@@ -107,10 +121,17 @@ class FundletTest : public ::testing::Test {
   }
   static std::string Result() { return Main().AnnualDrawField().Text(); }
   // Moves the focus to the field by Tab and replaces its text by typing.
-  static void Fill(const QString& field, const std::string& text);
+  static void Fill(const QString& field, const std::string& text) {
+    for (int tab = 0; tab < 12 && FocusName() != field.toStdString(); ++tab) user::Press("Tab");
+    user::Replace(text);
+  }
   static void Calculate() { user::Press("Return"); }
   // Calculates with an age of 51 years, which is refused, and answers the message.
-  void CalculateRefused(Answer answer = ByKey(Qt::Key_Escape));
+  void CalculateRefused(Answer answer = ByKey(Qt::Key_Escape)) {
+    Fill("StartAgeField", "51");
+    ExpectDialog(std::move(answer));
+    Calculate();
+  }
 
   ScratchFolder folder_;
 
