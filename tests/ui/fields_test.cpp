@@ -217,6 +217,9 @@ TEST_F(HeldKey, CalculatesNothingAndAnswersNoDialogButTypesAName) {
   for (const bool marked : {true, false}) Repeat(Main().Native(), Qt::Key_Return, marked);
   CalculateRefused(only_by_a_fresh_key);
   Calculate();
+  QTest::simulateEvent(Main().Native().windowHandle(), true, Qt::Key_S, Qt::ControlModifier, {},
+                       true, -1);
+  user::Settle();
   ExpectDialog([&](QWidget& dialog) {
     auto& name = Found<QLineEdit>("fileNameEdit");
     name.setFocus();
