@@ -29,7 +29,6 @@ result_picture_is() { [ "$(result_picture)" = "$1" ]; }
 
 # The expected schedule is that of a plan of four years from 2010 on.
 schedule_is_saved() { sed "s/\$/$line_end/" "$here/../files/schedule.txt" | cmp -s - "$folder/typed.txt"; }
-window_has_gone() { ! xdotool getwindowname "$1"; }
 
 # Saves the schedule in place of another file.
 save_schedule() {
@@ -46,7 +45,7 @@ save_schedule() {
   press alt+y
   # Then wine gives the keyboard to no window. Windows gives it to the one below.
   if [ "$session" = windows ]; then
-    wait_for 20 window_has_gone "$dialog" || fail 'the save dialog stayed'
+    wait_for 20 eval '! xdotool getwindowname "$dialog"' || fail 'the save dialog stayed'
     xdotool windowactivate "$main"
   fi
   wait_for 20 is_active "$main" || fail 'the save dialog stayed'

@@ -22,8 +22,7 @@ TEST(DrawSchedule, ReplacesAFileWithTheParametersAndOneRowForEachYear) {
   const ScratchFolder folder;
   const std::string name = "Entnahme ½ 年金 📈.txt";
   folder.Write(name, std::string(5000, 'x'));
-  constexpr std::filesystem::perms kNotReadable{0222};
-  std::filesystem::permissions(folder.Path() / name, kNotReadable);
+  std::filesystem::permissions(folder.Path() / name, std::filesystem::perms{0222});
   (OrdinaryUser(), SaveSchedule(SolvedSample(), folder.Item(name)));
   std::filesystem::permissions(folder.Path() / name, std::filesystem::perms{0666});
   const auto expected = std::filesystem::path(__FILE__).replace_filename("schedule.txt");

@@ -39,7 +39,7 @@ void ExpectRefused(FocusCode field, std::size_t limit, const std::vector<std::st
 }
 
 TEST(PastedEntry, IsRefusedWhereTheFieldWouldReadAnotherNumberThanTheTextSays) {
-  ExpectRefused(StartFundlet, 11, {"", ".", "$", "-", "$.", "year"});
+  ExpectRefused(StartFundlet, 11, {"", ".", "$", "-", "$.", "year", std::string(1'000'000, '9')});
   ExpectRefused(StartFundlet, 11,
                 {"1,2345", "12,50", "100,0000", "1234,567", "1,234,56", ",123", "0,123", "1,234,",
                  "１２", "123456789012"});
@@ -51,7 +51,6 @@ TEST(PastedEntry, IsRefusedWhereTheFieldWouldReadAnotherNumberThanTheTextSays) {
   ExpectRefused(StartFundlet, 11, {"5e", "5 e3", "1e3.5", "1e3,000"});
   ExpectRefused(StartFundlet, 11,
                 {"--5", "-$-5", "- 5", "5-", "(5)", "$5 €", "$$5", "5%", "5\u00A05", "5x"});
-  ExpectRefused(StartFundlet, 11, {std::string(1'000'000, '9')});
   ExpectRefused(StartYear, 4,
                 {"1,23", "2,030", "19.9", "2.0e3", "2e3", ".0", "$2030", "20%", "20300"});
   ExpectRefused(COLA, 11, {"1,5", "3.465.0", "1,500", "3%%", "€3", "3 $", "3%$", "% 3"});

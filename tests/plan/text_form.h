@@ -36,8 +36,7 @@ struct TextForm : EntryForm {
   std::vector<std::string> actions;
   std::function<void()> while_alerting = [] {};
 
-  TextForm() = default;
-  explicit TextForm(const Texts& others) {
+  explicit TextForm(const Texts& others = {}) {
     for (const auto& [field, text] : others) texts.at(field) = text;
   }
 

@@ -65,19 +65,6 @@ TEST_F(Gate, ReportsAnExceptionOnceAndGoesOn) {
   }
 }
 
-TEST_F(Gate, DefersActivationUntilTheHandlerReturns) {
-  Main().StartYearField().GotFocus = [this](TextField&) { log_.push_back("activate"); };
-  ExpectDialog(ByKey(Qt::Key_Return));
-  Do([this] {
-    Main().ClearFocus();
-    GlobalModule::AlertBox("one");
-    ExpectDialog(ByCloseBox());
-    GlobalModule::AlertBox("two");
-    log_.push_back("end");
-  });
-  EXPECT_EQ(log_, (Log{"end", "activate"}));
-}
-
 TEST_F(Gate, ClosesAWindowAfterTheComputation) {
   EXPECT_EQ(RunWith([this] { Compute([this] { Native()->close(); }); }), 0);
   EXPECT_EQ(log_, (Log{"begin", "end"}));
@@ -131,8 +118,6 @@ TEST_F(HeldInput, LetsTheCancelKeysAloneActAtOnce) {
     Compute([&, k = key] { user::Press(k); });
     EXPECT_EQ(cancelled_, cancels) << key;
   }
-  Do([this] { cancelled_ = UserCancelled(); });
-  EXPECT_FALSE(cancelled_);
 }
 
 TEST_F(Wheel, TurnsWhileAComputationYields) {

@@ -54,6 +54,7 @@ TEST_F(Controls, NameThemselvesAndThePropertyIfASetIsWrongAndKeepWhatWasBeforeIt
     return [=, &sign] { sign._SetProperties(bytes); };
   };
   const Property caption{"Caption", "x"};
+  const auto encode = [&] { EncodePropertySet(sign.Properties(), {&caption, 1}); };
   const std::pair<std::function<void()>, const char*> errors[] = {
       {set("MenuBarVisible \x01"),
        "control “StaticText1”, property “MenuBarVisible”: there is no such property"},
@@ -64,10 +65,7 @@ TEST_F(Controls, NameThemselvesAndThePropertyIfASetIsWrongAndKeepWhatWasBeforeIt
       {set("Text \x02\0\0\0okText"s), "control “StaticText1”, property “”: a name without a value"},
       {[&] { Main()._SetProperties("TabIndex x"); },
        "window “Fundlet”, property “TabIndex”: there is no such property"},
-      {[&] {
-         EncodePropertySet(sign.Properties(), {&caption, 1});
-       },
-       "no place for the property “Caption”"}};
+      {encode, "no place for the property “Caption”"}};
   for (const auto& [action, error] : errors) EXPECT_EQ(ErrorOf(action), error);
   EXPECT_EQ(sign.Text(), "ok");
 }

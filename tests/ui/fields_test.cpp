@@ -47,7 +47,7 @@ TEST_F(Fields, SelectTheForcedValueAfterARefusalEvenIfAMenuWasOpened) {
       {"YearsLeftField", "41", "40", ByKey(Qt::Key_Return)},
       {"COLAField", "100", "99.99",
        [](QWidget& dialog) { user::Click(*dialog.findChild<QPushButton*>()); }},
-      {"EndFundletField", "1000001", "0", ByCloseBox()}};
+      {"EndFundletField", "1000001", "0", user::CloseBox}};
   for (const auto& [field, typed, forced, answer] : refusals) {
     Fill(field, typed);
     ExpectDialog([&answer = answer](QWidget& dialog) {
@@ -193,11 +193,10 @@ TEST_F(FieldInput, IncludesACompositionForEveryCommand) {
 }
 
 TEST_F(FieldInput, ShowsTheHeadOfTheTextOnceLeft) {
-  auto& field = Found<QLineEdit>("StartYearField");
   Fill("StartYearField", "1e99");
   user::Press("Tab");
   EXPECT_GT(Text("StartYearField").size(), 15U);
-  EXPECT_EQ(field.cursorPosition(), 0);
+  EXPECT_EQ(Found<QLineEdit>("StartYearField").cursorPosition(), 0);
   Fill("StartFundletField", "1000000000");
   user::Press("Tab");
   auto& money = Found<QLineEdit>("StartFundletField");

@@ -9,23 +9,19 @@
 
 namespace fundlet {
 
-class Help : public StartedTest {
- protected:
-  static aHelpWindow& Window() { return *GlobalModule::HelpWindow; }
-};
-
+using Help = StartedTest;
 using SmallScreen = FundletTest;
 
 TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
   for (const char* keys : {"Ctrl+E", "Help", "F1", "Alt+H Return"}) {
     Fill("COLAField", "3.1");
     user::Press(keys);
-    const aHelpWindow* first = &Window();
+    const aHelpWindow* first = GlobalModule::HelpWindow.get();
     user::Activate(Main());
     EXPECT_EQ(Text("COLAField"), "3.1");
     user::Press("F1");
     user::Choose("Help", "Fundlet Help…");
-    EXPECT_EQ(&Window(), first);
+    EXPECT_EQ(GlobalModule::HelpWindow.get(), first);
     EXPECT_EQ(VisibleWindows("Fundlet Help"), 1);
     user::Press("Return");
     EXPECT_EQ(VisibleWindows("Fundlet Help"), 0);
@@ -38,12 +34,12 @@ TEST_F(Help, OpensByEveryRouteAndOnlyOnce) {
 
 TEST_F(Help, FollowsTheSizeOfItsWindowOnceResized) {
   user::Press("F1");
-  Window().Native().resize(100, 100);
+  GlobalModule::HelpWindow->Native().resize(100, 100);
   user::Settle();
-  EXPECT_EQ(Window().Native().Content().size(), QSize(400, 300));
+  EXPECT_EQ(GlobalModule::HelpWindow->Native().Content().size(), QSize(400, 300));
   EXPECT_EQ(Found("TextField").geometry(), QRect(20, 20, 354, 226));
   EXPECT_EQ(Found("DoneButton").geometry(), QRect(305, 265, 69, 18));
-  EXPECT_EQ(Window().Native().maximumWidth(), 32000);
+  EXPECT_EQ(GlobalModule::HelpWindow->Native().maximumWidth(), 32000);
 }
 
 TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
@@ -51,20 +47,21 @@ TEST_F(Help, OffersCopyOnlyWhileTextIsSelectedAndNoOtherEditing) {
   auto& area = Found<QPlainTextEdit>("TextField");
   user::Type("x");
   user::Press("Del");
-  EXPECT_EQ(Window().TextField().Text(), HelpText());
-  EXPECT_EQ(EnabledEditing(Window()), "");
+  EXPECT_EQ(GlobalModule::HelpWindow->TextField().Text(), HelpText());
+  EXPECT_EQ(EnabledEditing(*GlobalModule::HelpWindow), "");
   for (int i = 0; i < 7; ++i) user::Press("Shift+Right");
   user::OpenContextMenu();
-  EXPECT_EQ(QApplication::activePopupWidget(), Window().Native().findChild<QMenu*>("EditMenu"));
+  EXPECT_EQ(QApplication::activePopupWidget(),
+            GlobalModule::HelpWindow->Native().findChild<QMenu*>("EditMenu"));
   user::Press("Esc Tab Ctrl+C");
-  EXPECT_EQ(EnabledEditing(Window()), "EditCopy");
+  EXPECT_EQ(EnabledEditing(*GlobalModule::HelpWindow), "EditCopy");
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "Fundlet");
   user::Click(*area.viewport());
   EXPECT_EQ(area.textCursor().selectedText(), "");
   user::Press("Ctrl+A");
   user::Activate(Main());
-  Window().UpdateMenuItems();
-  Window().Native().findChild<QAction*>("EditCopy")->trigger();
+  GlobalModule::HelpWindow->UpdateMenuItems();
+  GlobalModule::HelpWindow->Native().findChild<QAction*>("EditCopy")->trigger();
   EXPECT_EQ(QGuiApplication::clipboard()->text().left(8).toStdString(), "Fundlet\n")
       << "a desktop may let a menu be chosen from before its window has become the active one";
 }
@@ -98,8 +95,7 @@ TEST_F(SmallScreen, ShowsTheHelpAndTheSaveDialogWhole) {
   const QRect help = GlobalModule::HelpWindow->Native().geometry();
   EXPECT_GT(help.top(), 20);
   EXPECT_LE(help.bottom(), 384);
-  const QRect button = Found("DoneButton").geometry();
-  EXPECT_EQ(button.top(), GlobalModule::HelpWindow->Height() - 35);
+  EXPECT_EQ(Found("DoneButton").y(), GlobalModule::HelpWindow->Height() - 35);
   user::Press("Return");
   Calculate();
   ExpectDialog([](QWidget& dialog) {

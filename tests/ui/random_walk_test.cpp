@@ -26,8 +26,8 @@ class RandomWalk : public StartedTest {
       const bool saves =
           dialog.windowTitle() == "Save" && qobject_cast<QMessageBox*>(&dialog) == nullptr;
       const Answer answers[] = {
-          ByKey(Qt::Key_Escape), ByCloseBox(),
-          saves ? BySaving((folder_.Path() / "plan").string()) : ByCloseBox()};
+          ByKey(Qt::Key_Escape), user::CloseBox,
+          saves ? BySaving((folder_.Path() / "plan").string()) : user::CloseBox};
       OneOf(answers)(dialog);
     });
   }

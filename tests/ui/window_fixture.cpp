@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QWindow>
 
 #include "app/my_application.h"
@@ -130,10 +131,10 @@ void Choose(const QString& menu, const QString& item, const QString& subitem) {
 
 }  // namespace user
 
-int VisibleWindows(const QString& title) {
-  return static_cast<int>(std::ranges::count_if(
-      QGuiApplication::topLevelWindows(),
-      [&](const QWindow* window) { return window->isVisible() && window->title() == title; }));
+std::ptrdiff_t VisibleWindows(const QString& title) {
+  return std::ranges::count_if(QGuiApplication::topLevelWindows(), [&](const QWindow* window) {
+    return window->isVisible() && window->title() == title;
+  });
 }
 
 std::string EnabledEditing(Window& window) {
@@ -152,10 +153,6 @@ std::string FocusName() {
 
 Answer ByKey(Qt::Key key) {
   return [key](QWidget& dialog) { QTest::keyClick(dialog.windowHandle(), key); };
-}
-
-Answer ByCloseBox() {
-  return [](QWidget& dialog) { user::CloseBox(dialog); };
 }
 
 Answer BySaving(const std::string& path) {
@@ -200,25 +197,20 @@ void FundletTest::Watch() {
   QTimer::singleShot(2, watchdog_.get(), [this] { Watch(); });
   QWidget* dialog = QApplication::activeWindow();
   if (qobject_cast<QDialog*>(dialog) == nullptr || dialog == handled_) return;
-  QWidget* before = std::exchange(handled_, dialog);
-  Handle(*dialog);
-  handled_ = before;
-}
-
-void FundletTest::Handle(QWidget& dialog) {
-  const auto* box = qobject_cast<QMessageBox*>(&dialog);
-  QString text = dialog.windowTitle();
+  const QScopedValueRollback handled(handled_, dialog);
+  const auto* box = qobject_cast<QMessageBox*>(dialog);
+  QString text = dialog->windowTitle();
   if (box != nullptr) text += ": " + box->text() + box->informativeText();
   static const QRegularExpression unseen("^Fundlet: |\u200B");  // the zero width breaks of a path
   shown_.push_back(text.remove(unseen).toStdString());
   if (expected_.empty()) {
     ADD_FAILURE() << "unexpected dialog: " << shown_.back();
-    dialog.close();
+    dialog->close();
     return;
   }
   const Answer answer = std::move(expected_.front());
   expected_.pop_front();
-  answer(dialog);
+  answer(*dialog);
 }
 
 }  // namespace fundlet

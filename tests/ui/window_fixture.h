@@ -67,15 +67,14 @@ struct Paints : QObject {
   }
   int count = 0;
 };
-int VisibleWindows(const QString& title);
+std::ptrdiff_t VisibleWindows(const QString& title);
 // The names of the enabled items for editing, after a menu update of that window.
 std::string EnabledEditing(Window& window);
 std::string FocusName();  // the focused widget's object name; empty if there is none
 
-// Answers a dialog as the user would.
+// Answers a dialog as the user would; user::CloseBox is one too.
 using Answer = std::function<void(QWidget& dialog)>;
 Answer ByKey(Qt::Key key);
-Answer ByCloseBox();
 Answer BySaving(
     const std::string& path);  // pastes the path into the save dialog and presses Return
 
@@ -137,7 +136,6 @@ class FundletTest : public ::testing::Test {
 
  private:
   void Watch();
-  void Handle(QWidget& dialog);
 
   std::optional<Runtime> runtime_;
   std::unique_ptr<QObject> watchdog_;
