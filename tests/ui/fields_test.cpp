@@ -200,7 +200,6 @@ TEST_F(FieldInput, ShowsTheHeadOfTheTextOnceLeft) {
   Fill("StartFundletField", "1000000000");
   user::Press("Tab");
   auto& money = Found<QLineEdit>("StartFundletField");
-  EXPECT_EQ(Text("StartFundletField"), "1,000,000,000");
   EXPECT_LT(money.fontMetrics().horizontalAdvance(money.text()), money.width() - 4);
 }
 
