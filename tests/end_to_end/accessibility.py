@@ -67,11 +67,11 @@ def result():
     return [n.name for n in everything() if n.name.startswith("Initial Year Draw:")]
 
 
-inserted, focused = [], []
-pyatspi.Registry.registerEventListener(lambda event: inserted.append(event.any_data),
-                                       "object:text-changed:insert")
-pyatspi.Registry.registerEventListener(lambda event: focused.append(event.source),
-                                       "object:state-changed:focused")
+changed, gained = [], []
+pyatspi.Registry.registerEventListener(lambda event: changed.append(event.any_data),
+                                       "object:text-changed:insert", "object:text-changed:delete")
+pyatspi.Registry.registerEventListener(lambda event: event.detail1 and gained.append(event.source),
+                                       "object:state-changed:focused", "object:state-changed:sensitive")
 wait_for("the program is not there", lambda: "Initial Year Draw:  $0" in result())
 
 fields = [node for node in everything() if node.getState().contains(pyatspi.STATE_EDITABLE)]
@@ -86,25 +86,33 @@ years = itertools.count(1990)
 
 def tells_of_change():
     year.queryEditableText().setTextContents(str(next(years)))
-    return inserted
+    return changed
 
 
 # The program learns only after its start that somebody listens.
 wait_for("the program does not tell of a changed text", tells_of_change)
 
+year.queryEditableText().setTextContents("206")
+wait_for("the program does not tell of the whole change", lambda: changed[-1] == "206")
+changed.clear()
+subprocess.run(["xdotool", "key", "Home", "Right", "Right", "2"], check=True)
+wait_for("a typed digit is not told of alone", lambda: changed == ["2"])
+
 # Another window comes and goes.
 with subprocess.Popen(sys.argv[1]) as other:
     wait_for("the other window is not active",
              lambda: not year.getState().contains(pyatspi.STATE_FOCUSED))
-    focused.clear()
+    gained.clear()
     other.terminate()
 wait_for("no focus is told of after the window has become active again",
-         lambda: year in focused)
+         lambda: year in gained)
 
 calculate = the("push button", "Calculate Annual Draw")
 assert calculate.description.startswith("Click this button")
 act(calculate)
 wait_for("the result", lambda: "Initial Year Draw:  $73,325" in result())
+save = the("push button", "Save Schedule")
+wait_for("it is not told of that a button is no longer dimmed", lambda: save in gained)
 
 act(the("menu item", "Fundlet Help…"))
 page = the("text", "Fundlet Help")
