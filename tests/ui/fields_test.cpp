@@ -131,6 +131,8 @@ TEST_F(FieldInput, AcceptsAPasteWholeOrNotAtAllAndIsNotLeftForAMenuOrAToolTip) {
   user::Press("Ctrl+A Ctrl+V");
   Repeat(Main().Native(), Qt::Key_V, true, Qt::ControlModifier);
   EXPECT_EQ(Text("SocialSecurityField"), "250");
+  user::Press("Ctrl+A 7 Home Ctrl+V 1");
+  EXPECT_EQ(Text("SocialSecurityField"), "25017") << "the caret stands behind the paste";
 }
 
 TEST_F(FieldInput, ReplacesTheTextByADropAndReadsIt) {

@@ -211,7 +211,9 @@ TEST_F(SaveDialog, FitsAMessageAboutALongNameOrPathOnTheScreen) {
         const QString text = dynamic_cast<QMessageBox&>(message).text();
         EXPECT_EQ(QString::fromUtf8(text.toUtf8()), text) << "not within a character";
         const auto* whole = message.findChild<QPlainTextEdit*>();
-        EXPECT_EQ(whole != nullptr && whole->toPlainText().contains(path), name == path);
+        EXPECT_EQ(whole != nullptr && whole->accessibleName() == "Whole message" &&
+                      whole->toPlainText().contains(path),
+                  name == path);
         message.close();
       });
       Name().setText(name);
