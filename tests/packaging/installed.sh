@@ -5,7 +5,7 @@ set -euo pipefail
 source=$1
 build=$2
 . "$source/tests/packaging/helpers.sh"
-need desktop-file-validate appstreamcli man Xvfb openbox xdotool xprop
+need desktop-file-validate appstreamcli man Xvfb openbox xdotool xprop identify
 
 folder=$(mktemp -d)
 trap 'close_screen; rm -rf "$folder"' EXIT
