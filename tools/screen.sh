@@ -40,7 +40,8 @@ open_screen() {
   unset QT_SCALE_FACTOR QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
   export HOME=$screen_folder/home XDG_CONFIG_HOME=$screen_folder/config
   export XDG_RUNTIME_DIR=$screen_folder/runtime QT_QPA_PLATFORM=xcb
-  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
+  # Without -noreset Xvfb starts anew when the first xdotool leaves, and may take openbox with it.
+  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset \
     3>"$screen_folder/display" 2>"$screen_folder/Xvfb.log" &
   screen_processes+=($!)
   wait_for 20 test -s "$screen_folder/display" || fail 'the virtual screen did not open'
