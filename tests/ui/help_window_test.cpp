@@ -86,6 +86,10 @@ TEST_F(Help, KeepsItsPlaceAndPutsTheCaretWhereItIsPressed) {
   user::Press("Up");
   EXPECT_EQ(page.verticalScrollBar()->value(), 19);
   EXPECT_TRUE(page.viewport()->rect().intersects(page.cursorRect()));
+  user::Press("Ctrl+Home");
+  page.verticalScrollBar()->setValue(20);
+  user::Press("Shift+Right");
+  EXPECT_EQ(page.textCursor().selectedText(), "F") << "a selection begins where the caret is";
 }
 
 TEST_F(SmallScreen, ShowsTheHelpAndTheSaveDialogWhole) {

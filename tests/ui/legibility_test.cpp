@@ -3,6 +3,7 @@
 
 #include <QFontInfo>
 #include <QImage>
+#include <QMenuBar>
 #include <QPushButton>
 
 #include "tests/ui/window_fixture.h"
@@ -112,6 +113,9 @@ TEST_F(Legibility, HoldsInTheMenusTheHelpAndTheMessages) {
   const auto expect_legible = [](QWidget& widget) {
     EXPECT_GE(ContrastIn(Picture(*widget.window(), 1.0), Inside(widget)), 7.0);
   };
+  Main().Native().menuBar()->resize(60, 24);
+  const QRect arrow = Inside(Found("qt_menubar_ext_button"));
+  EXPECT_GE(ContrastIn(Picture(Main().Native(), 1.0), arrow), 4.5);
   user::Press("F1");
   expect_legible(Found("TextField"));
   expect_legible(Found("DoneButton"));

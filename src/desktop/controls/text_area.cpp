@@ -33,11 +33,8 @@ class AreaWidget : public FocusReporting<QPlainTextEdit> {
   void SetScrollbarVertical(bool shown) {
     setVerticalScrollBarPolicy(shown ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
   }
-  // Without the scroll bar, long lines wrap.
-  void SetScrollbarHorizontal(bool shown) {
-    setHorizontalScrollBarPolicy(shown ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
-    setLineWrapMode(shown ? NoWrap : WidgetWidth);
-  }
+  // Without the scroll bar, which is shown when a line is too long, long lines wrap.
+  void SetScrollbarHorizontal(bool shown) { setLineWrapMode(shown ? NoWrap : WidgetWidth); }
   void SetBorder(bool border) { setFrameShape(border ? StyledPanel : NoFrame); }
 
  protected:
