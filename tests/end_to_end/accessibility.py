@@ -67,11 +67,13 @@ def result():
     return [n.name for n in everything() if n.name.startswith("Initial Year Draw:")]
 
 
-changed, gained = [], []
+changed, gained, selected = [], [], []
 pyatspi.Registry.registerEventListener(lambda event: changed.append(event.any_data),
                                        "object:text-changed:insert", "object:text-changed:delete")
 pyatspi.Registry.registerEventListener(lambda event: event.detail1 and gained.append(event.source),
                                        "object:state-changed:focused", "object:state-changed:sensitive")
+pyatspi.Registry.registerEventListener(lambda event: selected.append(event.source),
+                                       "object:text-selection-changed")
 wait_for("the program is not there", lambda: "Initial Year Draw:  $0" in result())
 
 fields = [node for node in everything() if node.getState().contains(pyatspi.STATE_EDITABLE)]
@@ -79,6 +81,10 @@ assert len(fields) == len({n.name for n in fields if n.description and text_of(n
     "not eight fields with names of their own, descriptions and texts"
 assert len([node for node in everything() if node.getRoleName() == "separator"
             and node.parent.getRoleName() == "filler"]) == 2, "not two rules"
+for node in everything():
+    index = node.getIndexInParent()
+    assert node.parent is None or list(node.parent).index(node) == index, f"{node} at {index}"
+the("popup menu", "Edit")
 
 year = the("text", "Start with 1 Jan:")
 years = itertools.count(1990)
@@ -97,6 +103,9 @@ wait_for("the program does not tell of the whole change", lambda: changed[-1] ==
 changed.clear()
 subprocess.run(["xdotool", "key", "Home", "Right", "Right", "2"], check=True)
 wait_for("a typed digit is not told of alone", lambda: changed == ["2"])
+selected.clear()
+subprocess.run(["xdotool", "key", "shift+Home"], check=True)
+wait_for("a selection is not told of", lambda: year in selected)
 
 # Another window comes and goes.
 with subprocess.Popen(sys.argv[1]) as other:

@@ -95,12 +95,9 @@ TEST_F(FieldInput, SelectsAllAtTheFirstClickAndAtADoubleClick) {
   for (const bool brings_focus : {true, false}) {
     QTest::mouseDClick(window, Qt::LeftButton, {}, head);
     user::Settle();
-    for (const auto type :
-         {QEvent::MouseButtonDblClick, QEvent::MouseMove, QEvent::MouseButtonRelease}) {
-      const QPointF at(type == QEvent::MouseButtonDblClick ? 6 : 30, 9);
-      QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, {});
-      QCoreApplication::sendEvent(&field, &event);
-    }
+    QTest::mouseDClick(&field, Qt::LeftButton, {}, {6, 9});
+    QTest::mouseMove(&field, {30, 9});
+    QTest::mouseRelease(&field, Qt::LeftButton, {}, {30, 9});
     EXPECT_EQ(Selected("EndFundletField"), "100,000");
     if (brings_focus) user::Click(Found("StartYearField"));
     QTest::mousePress(window, Qt::LeftButton, {}, head);

@@ -146,7 +146,6 @@ void ScreenReaderNotifier::NotifyText(const Known& before, const Known& now) {
   QAccessibleTextUpdateEvent event(now.object, static_cast<int>(head),
                                    before.text.mid(head, before.text.size() - head - tail),
                                    now.text.mid(head, now.text.size() - head - tail));
-  event.setCursorPosition(now.caret);
   Send(event);
 }
 
@@ -158,7 +157,6 @@ void ScreenReaderNotifier::NotifySelection(const Known& before, const Known& now
   }
   if (now.selected_from != before.selected_from || now.selected_to != before.selected_to) {
     QAccessibleTextSelectionEvent event(now.object, now.selected_from, now.selected_to);
-    event.setCursorPosition(now.caret);
     Send(event);
   }
 }
