@@ -9,7 +9,7 @@ here=$(dirname "$0")
 . "$here/../../tools/screen.sh"
 
 session=${SESSION:-x11}
-need Xvfb openbox xdotool import
+need Xvfb openbox xdotool import xprop
 expect() { # WHAT EXPECTED FOUND
   [ "$2" = "$3" ] || fail "$1"$'\n'"  expected: $2"$'\n'"  found:    $3"
 }
@@ -75,7 +75,7 @@ paste_what_is_selected() {
 
 # The mouse on a desktop where a click reaches a window before it has become the active one.
 work_with_the_mouse() {
-  local help
+  local help x y width height
   move_window "$main" 0 0
   press F1
   wait_for 20 other_window_of_is_active "$process" "$main" || fail 'F1 opened no help'
@@ -95,6 +95,13 @@ work_with_the_mouse() {
   type_text 2015
   press ctrl+p
   expect_parameters 'after a click into another field than the refused one' "07df3d04$remembered"
+
+  move_window "$help" 400 60
+  read -r x y width height < <(window_place "$help")
+  xdotool mousemove $((x + width - 2)) $((y + height - 2)) sleep 0.2 mousedown 1 sleep 0.2 \
+    mousemove $((x + width + 48)) $((y + height + 38)) sleep 0.2 mouseup 1
+  wait_for 20 eval '[[ $(window_place "$help") = *" $((width + 50)) $((height + 40))" ]]' || fail 'the corner is no grip'
+  click_in "$main" $((left + 145)) $((top + 32))
 
   press super+shift+m
   wait_for 20 is_wide "$main" || fail 'the desktop could not maximise the window'
@@ -142,6 +149,8 @@ left=$(((width - 740) / 2))
 top=$((height - 220 - left))
 expect 'width of the border' "$([ "$session" = wayland ] && echo 1 || echo 0)" "$left"
 expect 'title' Fundlet "$(window_title "$main")"
+[ "$session" != x11 ] || xprop -id "$main" _NET_FRAME_EXTENTS | grep -q ', [1-9][0-9], [0-9]*$' ||
+  fail 'the window has no title bar'
 expect_parameters 'after the first start' "$(date +%Y | xargs printf %04x)"411b3f947ae147ae147b412e848000000000\
 3fa999999999999a40d388000000000040f86a0000000000
 expect 'colour of the window' '#CCFFCC' "$(colour_at 5 210)"

@@ -52,7 +52,7 @@ expect_no_window() {
   [ "$status" -eq 1 ] && [ "$(wc -l <"$folder/output")" -eq 1 ] && grep -q "$cause" "$folder/output" ||
     fail "without a window, status $status: $(cat "$folder/output")"
 }
-expect_no_window 'neither DISPLAY nor WAYLAND_DISPLAY' env -u DISPLAY
+expect_no_window 'there is no desktop, because neither DISPLAY nor WAYLAND_DISPLAY is set$' env -u DISPLAY
 expect_no_window 'connect to display :none' env DISPLAY=:none
 expect_no_window 'plugin "none"' env QT_QPA_PLATFORM=none
 start_and_quit "$entry" "$folder/prefix/bin/$(desktop_entry_value "$entry" Exec)"

@@ -31,6 +31,8 @@ TEST_F(Controls, ShowEachPropertyThatIsSet) {
       {"CueText", "x", [](Widget w) { return w.property("placeholderText") == "x"; }},
       {"Password", true, [&](Widget w) { return is(w, "echoMode", QLineEdit::Password); }},
       {"Border", false, [&](Widget w) { return is(w, "frame", 0) || is(w, "frameShape", 0); }},
+      {"ScrollbarVertical", false,
+       [&](Widget w) { return is(w, "verticalScrollBarPolicy", Qt::ScrollBarAlwaysOff); }},
       {"ScrollbarHorizontal", true,
        [&](Widget w) { return is(w, "lineWrapMode", QPlainTextEdit::NoWrap); }}};
   user::Press("F1");

@@ -52,6 +52,7 @@ TEST_F(Fields, SelectTheForcedValueAfterARefusalEvenIfAMenuWasOpened) {
     Fill(field, typed);
     ExpectDialog([&answer = answer](QWidget& dialog) {
       EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), QMessageBox::Warning);
+      EXPECT_FALSE(dynamic_cast<QMessageBox&>(dialog).iconPixmap().isNull());
       Main().Native().findChild<QMenu*>("EditMenu")->aboutToShow();
       answer(dialog);
     });
